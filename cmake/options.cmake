@@ -1,0 +1,14 @@
+# How every target is compiled. The calculations give the same digits on every processor:
+# no fused multiply-add, no reordering of floating-point operations.
+add_library(tarnwick_options INTERFACE)
+target_compile_options(tarnwick_options INTERFACE
+  -ffp-contract=off
+  -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wnon-virtual-dtor
+  -Wold-style-cast -Wcast-align -Woverloaded-virtual -Wdouble-promotion -Wimplicit-fallthrough)
+
+if(TARNWICK_SANITIZE)
+  target_compile_options(tarnwick_options INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(tarnwick_options INTERFACE -fsanitize=address,undefined)
+  target_compile_definitions(tarnwick_options INTERFACE _GLIBCXX_ASSERTIONS)
+endif()
