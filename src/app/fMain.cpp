@@ -1,0 +1,130 @@
+#include "app/fMain.h"
+
+#include "common/product.h"
+#include "ui/text.h"
+#include "ui/widgets.h"
+
+#include <QFont>
+#include <QFontMetrics>
+#include <QMenuBar>
+#include <QPixmap>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <array>
+#include <string>
+#include <string_view>
+
+namespace tarnwick::app {
+namespace {
+
+namespace product = common::product;
+
+constexpr int twipsPerPixel = 15;
+constexpr QSize pictureSize(4695 / twipsPerPixel, 3615 / twipsPerPixel);
+constexpr int buttonLeft = 2700 / twipsPerPixel;
+constexpr QSize buttonSize(1815 / twipsPerPixel, 350 / twipsPerPixel);
+
+struct LauncherButton {
+  std::string_view control;
+  std::string_view caption;
+  int topTwips;
+  std::string_view window;
+};
+
+// Top to bottom, which is also the tab order.
+constexpr std::array<LauncherButton, 9> launcherButtons{{
+    {"cTimer", "Timer calc", 200, "fTimer"},
+    {"cTimerHelper", "Timer helper", 560, "fTimerHelper"},
+    {"cUSART", "USART calc", 920, "fUSART"},
+    {"cEUSART", "EUSART calc", 1280, "fEUSART"},
+    {"cSerinSerout2", "SERIN/OUT2", 1635, "fSerinSerout2"},
+    {"cPWM", "PWM calc", 2000, "fPWM"},
+    {"cAD", "A/D Calc", 2360, "fMinADTime"},
+    {"Command1", "Comparator Vref", 2715, "fComparator"},
+    {"cCustomChar", "LCD custom character", 3075, "fCustomCharacter"},
+}};
+
+// Alphabetical, the launcher in its place: it is closing already when its turn comes.
+constexpr std::array<std::string_view, 11> unloadOrder{
+    "fAbout", "fComparator",   "fCustomCharacter", "fEUSART",      "fMain", "fMinADTime",
+    "fPWM",   "fSerinSerout2", "fTimer",           "fTimerHelper", "fUSART"};
+
+// Answers the font, made smaller where the widest caption would not fit a button whole.
+QFont fittingFont(QFont font) {
+  constexpr int marginX = 8;
+  constexpr int marginY = 4;
+  constexpr double step = 0.5;
+  constexpr double smallest = 5;
+  const auto fits = [](const QFont& candidate) {
+    const QFontMetrics metrics(candidate);
+    if (metrics.height() + marginY > buttonSize.height()) return false;
+    return std::ranges::all_of(launcherButtons, [&](const LauncherButton& button) {
+      return metrics.horizontalAdvance(ui::toQt(button.caption)) + marginX <= buttonSize.width();
+    });
+  };
+  while (!fits(font) && font.pointSizeF() > smallest) font.setPointSizeF(font.pointSizeF() - step);
+  return font;
+}
+
+}  // namespace
+
+fMain::fMain(WindowSet& windows, GenVar& genVar)
+    : Window("fMain", product::title), windows_(windows), genVar_(genVar) {
+  auto* client = new QWidget(this);
+  client->setFixedSize(pictureSize);
+  layOutPicture(client);
+  layOutButtons(client);
+
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSizeConstraint(QLayout::SetFixedSize);
+  layout->setMenuBar(makeMenu());
+  layout->addWidget(client);
+
+  connect(this, &Window::unloading, this, &fMain::Form_Unload);
+  Form_Load();
+}
+
+void fMain::layOutPicture(QWidget* client) {
+  auto* Picture1 = ui::label(client, "Picture1", "");
+  Picture1->setAccessibleName(ui::toQt(product::name));
+  Picture1->setPixmap(QPixmap(QStringLiteral(":/launcher.png")));
+  Picture1->setGeometry(QRect(QPoint(0, 0), pictureSize));
+}
+
+void fMain::layOutButtons(QWidget* client) {
+  const QFont font = fittingFont(client->font());
+  for (const LauncherButton& button : launcherButtons) {
+    auto* push = ui::button(client, button.control, button.caption);
+    push->setFont(font);
+    push->setGeometry(QRect(QPoint(buttonLeft, button.topTwips / twipsPerPixel), buttonSize));
+    push->setEnabled(windows_.has(button.window));
+    connect(push, &QPushButton::clicked, this, [this, button] { windows_.open(button.window); });
+  }
+}
+
+QMenuBar* fMain::makeMenu() {
+  auto* menu = new QMenuBar(this);
+  const auto add = [&](std::string_view name, std::string_view caption, auto command) {
+    QAction* action = menu->addAction(ui::toQt(caption), this, command);
+    action->setObjectName(ui::toQt(name));
+  };
+  add("Exit", "Exit", [this] { close(); });
+  add("Visite_our_Website", "Website", [] { OpenWebSite(std::string(product::webSite)); });
+  add("Contact_us", "Contact us",
+      [] { SendMail(std::string(product::email), std::string(product::name), ""); });
+  add("About", "About", [this] { windows_.open("fAbout"); });
+  return menu;
+}
+
+void fMain::Form_Load() {
+  genVar_.oscillator.MaxOsc = 64;
+}
+
+void fMain::Form_Unload() {
+  for (const std::string_view name : unloadOrder) windows_.unload(name);
+}
+
+}  // namespace tarnwick::app

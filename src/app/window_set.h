@@ -1,0 +1,44 @@
+#pragma once
+
+#include "ui/window.h"
+
+#include <QPointer>
+
+#include <functional>
+#include <map>
+#include <string>
+#include <string_view>
+
+namespace tarnwick::app {
+
+// The program's windows by name: each exists at most once, is loaded when it is opened, and loses
+// its state when it is closed.
+class WindowSet {
+public:
+  // Creates a window and runs its load step.
+  using Load = std::function<ui::Window*()>;
+
+  WindowSet() = default;
+  WindowSet(const WindowSet&) = delete;
+  WindowSet& operator=(const WindowSet&) = delete;
+  ~WindowSet();
+
+  void add(std::string name, Load load);
+  [[nodiscard]] bool has(std::string_view name) const;
+
+  // Loads the window unless it is loaded, and shows or brings it forward.
+  void open(std::string_view name);
+  // Closes the window; nothing happens when it is not loaded or is closing already.
+  void unload(std::string_view name);
+  // Answers the window, or nothing while it is not loaded.
+  [[nodiscard]] ui::Window* loaded(std::string_view name) const;
+
+private:
+  struct Entry {
+    Load load;
+    QPointer<ui::Window> window;
+  };
+  std::map<std::string, Entry, std::less<>> entries_;
+};
+
+}  // namespace tarnwick::app

@@ -1,0 +1,43 @@
+#include "ui/layout.h"
+
+#include "ui/text.h"
+
+#include <QHBoxLayout>
+
+namespace tarnwick::ui {
+namespace {
+
+constexpr int margin = 10;
+constexpr int spacing = 8;
+
+}  // namespace
+
+QGridLayout* grid(QWidget* parent) {
+  auto* layout = new QGridLayout(parent);
+  layout->setContentsMargins(margin, margin, margin, margin);
+  layout->setSpacing(spacing);
+  return layout;
+}
+
+void row(QWidget* parent, std::initializer_list<QWidget*> controls) {
+  auto* layout = new QHBoxLayout(parent);
+  layout->setContentsMargins(margin, margin, margin, margin);
+  layout->setSpacing(spacing);
+  for (QWidget* control : controls) layout->addWidget(control);
+}
+
+void labelledRow(QGridLayout* grid, std::string_view labelName, std::string_view labelText,
+                 QWidget* field) {
+  auto* text = label(grid->parentWidget(), labelName, labelText);
+  text->setBuddy(field);
+  nameAfter(field, labelText);
+  const int row = grid->rowCount();
+  grid->addWidget(text, row, 0, Qt::AlignRight | Qt::AlignVCenter);
+  grid->addWidget(field, row, 1);
+}
+
+void fixToContent(QWidget* window) {
+  window->layout()->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+}  // namespace tarnwick::ui

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "ui/widgets.h"
+
+#include <QGridLayout>
+
+#include <initializer_list>
+#include <string_view>
+
+// Margins and spacing of every window, said once.
+namespace tarnwick::ui {
+
+// Gives a window or a group a grid with the usual spacing.
+QGridLayout* grid(QWidget* parent);
+
+// Puts controls side by side into a window or a group.
+void row(QWidget* parent, std::initializer_list<QWidget*> controls);
+
+// Adds a row to the grid: a label, right-aligned to the field beside it, which is named after it.
+void labelledRow(QGridLayout* grid, std::string_view labelName, std::string_view labelText,
+                 QWidget* field);
+
+// Keeps a window at the size of its content.
+void fixToContent(QWidget* window);
+
+}  // namespace tarnwick::ui

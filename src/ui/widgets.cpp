@@ -1,0 +1,218 @@
+#include "ui/widgets.h"
+
+#include "common/number_text.h"
+#include "ui/text.h"
+
+#include <QEvent>
+#include <QFontDatabase>
+#include <QSignalBlocker>
+#include <QStyleOptionFrame>
+
+#include <algorithm>
+
+namespace tarnwick::ui {
+namespace {
+
+void giveNames(QWidget& control, std::string_view name, std::string_view accessibleName) {
+  control.setObjectName(toQt(name));
+  control.setAccessibleName(toQt(accessibleName));
+}
+
+void fill(QComboBox& list, std::span<const std::string_view> items) {
+  for (const std::string_view item : items) list.addItem(toQt(item));
+}
+
+}  // namespace
+
+std::string indexed(std::string_view family, int index) {
+  return std::string(family) + "(" + common::wholeText(index) + ")";
+}
+
+void fitWidth(QLineEdit& field, std::string_view widest) {
+  field.ensurePolished();
+  constexpr int textMargins = 2 * 2 + 2;  // those of QLineEdit, and one pixel for the cursor
+  const QMargins margins = field.textMargins();
+  const QSize text(field.fontMetrics().horizontalAdvance(toQt(widest)) + margins.left() +
+                       margins.right() + textMargins,
+                   field.fontMetrics().height());
+  QStyleOptionFrame option;
+  option.initFrom(&field);
+  option.lineWidth = field.style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, &field);
+  field.setMinimumWidth(
+      field.style()->sizeFromContents(QStyle::CT_LineEdit, &option, text, &field).width());
+}
+
+ResultField::ResultField(QWidget* parent, std::string_view name, std::string_view widest)
+    : QLineEdit(parent) {
+  setObjectName(toQt(name));
+  setReadOnly(true);
+  blendIntoWindow();
+  fitWidth(*this, widest);
+}
+
+std::string ResultField::contents() const {
+  return fromQt(text());
+}
+
+void ResultField::setContents(std::string_view text) {
+  setText(toQt(text));
+}
+
+void ResultField::changeEvent(QEvent* event) {
+  QLineEdit::changeEvent(event);
+  if (event->type() == QEvent::ApplicationPaletteChange) blendIntoWindow();
+}
+
+// A result stands on the window's own background, so that it is not taken for an input.
+void ResultField::blendIntoWindow() {
+  QPalette own;
+  own.setBrush(QPalette::Base, own.brush(QPalette::Window));
+  setPalette(own);
+}
+
+ResultColumn::ResultColumn(QWidget* parent, std::string_view name, std::string_view widest,
+                           int lines)
+    : QPlainTextEdit(parent) {
+  setObjectName(toQt(name));
+  setReadOnly(true);
+  setUndoRedoEnabled(false);
+  setTabChangesFocus(true);
+  setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  setLineWrapMode(QPlainTextEdit::NoWrap);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  ensurePolished();
+  const int margins = 2 * (static_cast<int>(document()->documentMargin()) + frameWidth());
+  setMinimumWidth(fontMetrics().horizontalAdvance(toQt(widest)) + margins + 1);
+  setFixedHeight(fontMetrics().lineSpacing() * lines + margins + 1);
+}
+
+void ResultColumn::setContents(std::string_view text) {
+  contents_ = text;
+  std::string_view shown = text;
+  if (shown.ends_with(common::lineEnd)) shown.remove_suffix(common::lineEnd.size());
+  const QString lines = toQt(shown).remove(QLatin1Char('\r'));
+  if (lines != toPlainText()) setPlainText(lines);
+}
+
+OptionGroup::OptionGroup(QWidget* parent, std::string_view family, std::span<const Option> options)
+    : QObject(parent) {
+  for (const Option& option : options) {
+    auto* radio = new QRadioButton(toQt(option.caption), parent);
+    giveNames(*radio, indexed(family, option.index), option.caption);
+    group_.addButton(radio, option.index);
+  }
+  connect(&group_, &QButtonGroup::idToggled, this, [this](int index, bool on) {
+    if (on) emit chosen(index);
+  });
+}
+
+QRadioButton* OptionGroup::button(int index) const {
+  return static_cast<QRadioButton*>(group_.button(index));
+}
+
+int OptionGroup::selected() const {
+  return group_.checkedId();
+}
+
+void OptionGroup::select(int index) {
+  group_.button(index)->setChecked(true);
+}
+
+Slider::Slider(QWidget* parent, std::string_view name, int minimum, int maximum)
+    : QSlider(Qt::Horizontal, parent) {
+  setObjectName(toQt(name));
+  setRange(minimum, maximum);
+  connect(this, &QSlider::valueChanged, this, &Slider::moved);
+}
+
+void Slider::refreshPosition(int position) {
+  setRangeAndPosition(minimum(), maximum(), position);
+}
+
+void Slider::setRangeAndPosition(int minimum, int maximum, int position) {
+  {
+    const QSignalBlocker quiet(this);
+    setRange(minimum, maximum);
+    setValue(position);
+  }
+  emit moved(value());
+}
+
+SelectionList::SelectionList(QWidget* parent, std::string_view name,
+                             std::span<const std::string_view> items)
+    : QComboBox(parent) {
+  setObjectName(toQt(name));
+  fill(*this, items);
+  connect(this, &QComboBox::activated, this, &SelectionList::chosen);
+}
+
+std::string SelectionList::contents() const {
+  return fromQt(currentText());
+}
+
+void SelectionList::choose(int index) {
+  setCurrentIndex(index);
+  emit chosen(index);
+}
+
+EditableList::EditableList(QWidget* parent, std::string_view name,
+                           std::span<const std::string_view> items, std::string_view widest)
+    : QComboBox(parent) {
+  setObjectName(toQt(name));
+  setEditable(true);
+  setInsertPolicy(QComboBox::NoInsert);
+  setCompleter(nullptr);
+  // The list would take a typed text that equals an item for a choice of that item.
+  disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
+  fill(*this, items);
+  fitWidth(*lineEdit(), widest);
+  connect(this, &QComboBox::activated, this, &EditableList::chosen);
+  connect(this, &QComboBox::editTextChanged, this, &EditableList::edited);
+}
+
+std::string EditableList::contents() const {
+  return fromQt(currentText());
+}
+
+void EditableList::setContents(std::string_view text) {
+  setEditText(toQt(text));
+}
+
+void EditableList::choose(int index) {
+  setCurrentIndex(index);
+  emit chosen(index);
+}
+
+QCheckBox* checkBox(QWidget* parent, std::string_view name, std::string_view caption) {
+  auto* box = new QCheckBox(toQt(caption), parent);
+  giveNames(*box, name, caption);
+  return box;
+}
+
+QPushButton* button(QWidget* parent, std::string_view name, std::string_view caption) {
+  auto* push = new QPushButton(toQt(caption), parent);
+  giveNames(*push, name, caption);
+  return push;
+}
+
+QLabel* label(QWidget* parent, std::string_view name, std::string_view text) {
+  auto* plain = new QLabel(parent);
+  plain->setTextFormat(Qt::PlainText);
+  plain->setText(toQt(text));
+  giveNames(*plain, name, text);
+  return plain;
+}
+
+QGroupBox* group(QWidget* parent, std::string_view name, std::string_view caption) {
+  auto* box = new QGroupBox(toQt(caption), parent);
+  giveNames(*box, name, caption);
+  return box;
+}
+
+void nameAfter(QWidget* control, std::string_view labelText) {
+  while (labelText.ends_with(':') || labelText.ends_with(' ')) labelText.remove_suffix(1);
+  control->setAccessibleName(toQt(labelText));
+}
+
+}  // namespace tarnwick::ui

@@ -1,0 +1,165 @@
+#pragma once
+
+#include "ui/window.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSlider>
+
+#include <initializer_list>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// The controls that the windows are made of, beside the entry fields. Each takes its design name
+// as object name; what an assistive tool calls it is its caption or the label beside it.
+namespace tarnwick::ui {
+
+// Makes a one-line field just wide enough to show the text whole.
+void fitWidth(QLineEdit& field, std::string_view widest);
+
+// Answers the object name of a member of an indexed family: "oPrescaller(3)".
+[[nodiscard]] std::string indexed(std::string_view family, int index);
+
+// A read-only one-line field for a result.
+class ResultField : public QLineEdit {
+  Q_OBJECT
+
+public:
+  // `widest` is the longest text that the field is to show whole.
+  ResultField(QWidget* parent, std::string_view name, std::string_view widest);
+
+  [[nodiscard]] std::string contents() const;
+  void setContents(std::string_view text);
+
+protected:
+  void changeEvent(QEvent* event) override;
+
+private:
+  void blendIntoWindow();
+};
+
+// A read-only column of lines. Its text as the program sees it ends each line with CR LF and is
+// kept as it was set; what is shown has one line for each of them.
+class ResultColumn : public QPlainTextEdit {
+  Q_OBJECT
+
+public:
+  // `widest` is the longest line, `lines` the number of lines to be seen without scrolling.
+  ResultColumn(QWidget* parent, std::string_view name, std::string_view widest, int lines);
+
+  [[nodiscard]] const std::string& contents() const { return contents_; }
+  void setContents(std::string_view text);
+
+private:
+  std::string contents_;
+};
+
+// Option buttons of which exactly one is selected, each with its index.
+class OptionGroup : public QObject {
+  Q_OBJECT
+
+public:
+  struct Option {
+    int index;
+    std::string_view caption;
+  };
+
+  // The buttons are children of `parent` in the order given; none is selected yet.
+  OptionGroup(QWidget* parent, std::string_view family, std::span<const Option> options);
+  OptionGroup(QWidget* parent, std::string_view family, std::initializer_list<Option> options)
+      : OptionGroup(parent, family, std::span(options.begin(), options.size())) {}
+
+  [[nodiscard]] QRadioButton* button(int index) const;
+  // The selected index, -1 while there is none.
+  [[nodiscard]] int selected() const;
+  // Selects an option; `chosen` is raised when it was not selected already.
+  void select(int index);
+
+signals:
+  void chosen(int index);
+
+private:
+  QButtonGroup group_;
+};
+
+// A horizontal slider that reports each new position, also in the middle of a drag.
+class Slider : public QSlider {
+  Q_OBJECT
+
+public:
+  Slider(QWidget* parent, std::string_view name, int minimum, int maximum);
+
+  // Goes to the position nearest to the one given; `moved` is raised when it is a new one.
+  void setPosition(int position) { setValue(position); }
+  // The same, but `moved` is raised also when the slider stands there already.
+  void refreshPosition(int position);
+  // Changes range and position in one step: `moved` is raised once, with both in place, even when
+  // the position happens to be the same number as before.
+  void setRangeAndPosition(int minimum, int maximum, int position);
+
+signals:
+  void moved(int position);
+};
+
+// A drop-down list that can only be chosen from.
+class SelectionList : public QComboBox {
+  Q_OBJECT
+
+public:
+  SelectionList(QWidget* parent, std::string_view name, std::span<const std::string_view> items);
+
+  [[nodiscard]] std::string contents() const;
+  // Selects an item from code; `chosen` is raised as when a user picks it.
+  void choose(int index);
+
+signals:
+  // The user picked an item, be it the current one again, or `choose` was called.
+  void chosen(int index);
+};
+
+// A drop-down list that also takes any typed text as it stands: nothing is completed, corrected
+// or added, and typing an item's text is not choosing it.
+class EditableList : public QComboBox, public FocusListener {
+  Q_OBJECT
+
+public:
+  EditableList(QWidget* parent, std::string_view name, std::span<const std::string_view> items,
+               std::string_view widest);
+
+  [[nodiscard]] std::string contents() const;
+  // Sets the text without choosing an item; `edited` is raised when it is another text.
+  void setContents(std::string_view text);
+  // Selects an item from code; `chosen` is raised as when a user picks it.
+  void choose(int index);
+
+  void focusEntered() override {}
+  void focusLeft() override { emit focusLost(); }
+
+signals:
+  void chosen(int index);
+  // The text changed, by typing, by a choice or from code.
+  void edited();
+  void focusLost();
+};
+
+// A check box, a button, a label (plain text) with their design names.
+[[nodiscard]] QCheckBox* checkBox(QWidget* parent, std::string_view name, std::string_view caption);
+[[nodiscard]] QPushButton* button(QWidget* parent, std::string_view name, std::string_view caption);
+[[nodiscard]] QLabel* label(QWidget* parent, std::string_view name, std::string_view text);
+
+// A captioned group; its controls are its children.
+[[nodiscard]] QGroupBox* group(QWidget* parent, std::string_view name, std::string_view caption);
+
+// Gives a control the name that assistive tools announce: a label's text without its colon.
+void nameAfter(QWidget* control, std::string_view labelText);
+
+}  // namespace tarnwick::ui

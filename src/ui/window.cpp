@@ -1,0 +1,87 @@
+#include "ui/window.h"
+
+#include "ui/text.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+
+#include <utility>
+
+namespace tarnwick::ui {
+namespace {
+
+// Keeps mouse presses and wheel steps from the controls of a window for as long as the message
+// that it belongs to is open: also the press whose focus change brought the message up, which
+// the toolkit delivers after that change.
+class PressGuard : public QObject {
+public:
+  PressGuard(QMessageBox* message, QWidget* window) : QObject(message), window_(window) {
+    qApp->installEventFilter(this);
+  }
+
+  bool eventFilter(QObject* receiver, QEvent* event) override {
+    switch (event->type()) {
+      case QEvent::MouseButtonPress:
+      case QEvent::MouseButtonDblClick:
+      case QEvent::Wheel: {
+        const auto* control = qobject_cast<QWidget*>(receiver);
+        return control != nullptr && control->window() == window_;
+      }
+      default:
+        return false;
+    }
+  }
+
+private:
+  QPointer<QWidget> window_;
+};
+
+FocusListener* listener(QWidget* control) {
+  return dynamic_cast<FocusListener*>(control);
+}
+
+}  // namespace
+
+Window::Window(std::string_view name, std::string_view caption)
+    : QWidget(nullptr, Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                           Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint) {
+  setObjectName(toQt(name));
+  setWindowTitle(toQt(caption));
+  setAccessibleName(toQt(caption));
+  connect(qApp, &QApplication::focusChanged, this,
+          [this](QWidget*, QWidget* now) { followFocus(now); });
+}
+
+void Window::bringForward() {
+  setWindowState(windowState() & ~Qt::WindowMinimized);
+  show();
+  raise();
+  activateWindow();
+}
+
+void Window::showMessage(QMessageBox::Icon icon, std::string_view title, std::string_view text) {
+  if (message_ != nullptr) return;
+  message_ = new QMessageBox(icon, toQt(title), toQt(text), QMessageBox::Ok, this);
+  message_->setObjectName(QStringLiteral("message"));
+  message_->setTextFormat(Qt::PlainText);
+  message_->setAttribute(Qt::WA_DeleteOnClose);
+  new PressGuard(message_, this);
+  message_->open();
+}
+
+void Window::closeEvent(QCloseEvent* event) {
+  delete message_;
+  emit unloading();
+  event->accept();
+}
+
+void Window::followFocus(QWidget* now) {
+  if (now == nullptr || now->window() != this || now == current_) return;
+  const QPointer<QWidget> left = std::exchange(current_, nullptr);
+  if (FocusListener* control = listener(left)) control->focusLeft();
+  if (QApplication::focusWidget() != now) return;
+  current_ = now;
+  if (FocusListener* control = listener(now)) control->focusEntered();
+}
+
+}  // namespace tarnwick::ui

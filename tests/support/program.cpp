@@ -1,0 +1,163 @@
+#include "support/program.h"
+
+#include "app/windows.h"
+#include "ui/widgets.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QMessageBox>
+#include <QProcess>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace tarnwick::tests {
+namespace {
+
+void settle() {
+  QCoreApplication::processEvents();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void turnToWindow(QWidget* window) {
+  window->activateWindow();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(window)) << window->objectName().toStdString();
+}
+
+}  // namespace
+
+Program::Program() {
+  app::addWindows(windows, genVar);
+  windows.open("fMain");
+  turnTo("fMain");
+}
+
+Program::~Program() {
+  windows.unload("fMain");
+  settle();
+}
+
+void Program::open(const std::string& launcherButton, const std::string& name) {
+  turnTo("fMain");
+  click(launcherButton);
+  turnTo(name);
+}
+
+QWidget* Program::window(const std::string& name) {
+  QWidget* found = windows.loaded(name);
+  EXPECT_NE(found, nullptr) << name;
+  return found;
+}
+
+void Program::turnTo(const std::string& name) {
+  current_ = window(name);
+  turnToWindow(current_);
+}
+
+std::string Program::focused() const {
+  const QWidget* focus = QApplication::focusWidget();
+  return focus == nullptr ? "" : ui::fromQt(focus->objectName());
+}
+
+void Program::click(const std::string& name) {
+  auto* target = control(name);
+  QPoint place = target->rect().center();
+  if (qobject_cast<QAbstractButton*>(target) != nullptr) place.setX(std::min(place.x(), 10));
+  clickAt(name, place);
+}
+
+void Program::clickAt(const std::string& name, QPoint place) {
+  auto* target = control(name);
+  QTest::mouseClick(current_->windowHandle(), Qt::LeftButton, {},
+                    target->mapTo(target->window(), place));
+  settle();
+}
+
+void Program::press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+  QWindow* target = QGuiApplication::focusWindow();
+  ASSERT_NE(target, nullptr);
+  QTest::keyClick(target, key, modifiers);
+  settle();
+}
+
+void Program::type(const std::string& characters) {
+  for (const char c : characters) QTest::keyClick(QGuiApplication::focusWindow(), c);
+}
+
+void Program::enter(const std::string& field, const std::string& characters) {
+  control(field)->setFocus(Qt::MouseFocusReason);
+  control<QLineEdit>(field)->selectAll();
+  press(Qt::Key_Delete);
+  type(characters);
+}
+
+void Program::enterAndConfirm(const std::string& field, const std::string& characters) {
+  enter(field, characters);
+  press(Qt::Key_Return);
+}
+
+void Program::paste(const std::string& field, const std::string& text) {
+  QGuiApplication::clipboard()->setText(ui::toQt(text));
+  control(field)->setFocus(Qt::MouseFocusReason);
+  control<QLineEdit>(field)->selectAll();
+  control<QLineEdit>(field)->paste();
+}
+
+void Program::pick(const std::string& list, int item) {
+  click(list);
+  auto* view = control<QComboBox>(list)->view();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(view->window()));
+  const QModelIndex index = view->model()->index(item, 0);
+  view->scrollTo(index);
+  const QPoint place = view->visualRect(index).center();
+  QTest::qWait(QApplication::doubleClickInterval() + 50);  // the popup ignores an early release
+  QTest::mouseClick(view->window()->windowHandle(), Qt::LeftButton, {},
+                    view->viewport()->mapTo(view->window(), place));
+  settle();
+}
+
+std::string Program::shown(const std::string& name) {
+  auto* target = control(name);
+  if (const auto* column = qobject_cast<ui::ResultColumn*>(target)) return column->contents();
+  if (const auto* field = qobject_cast<QLineEdit*>(target)) return ui::fromQt(field->text());
+  if (const auto* list = qobject_cast<QComboBox*>(target)) return ui::fromQt(list->currentText());
+  if (const auto* label = qobject_cast<QLabel*>(target)) return ui::fromQt(label->text());
+  ADD_FAILURE() << name << " shows no text";
+  return {};
+}
+
+bool Program::isSelected(const std::string& option) {
+  return control<QAbstractButton>(option)->isChecked();
+}
+
+QWidget* Program::message() const {
+  return QApplication::activeModalWidget();
+}
+
+std::string Program::messageShown() const {
+  const auto* box = qobject_cast<QMessageBox*>(message());
+  return box == nullptr ? "" : ui::fromQt(box->windowTitle() + ": " + box->text());
+}
+
+void Program::confirmMessage() {
+  auto* box = qobject_cast<QMessageBox*>(message());
+  ASSERT_NE(box, nullptr);
+  turnToWindow(box);
+  press(Qt::Key_Return);
+  turnToWindow(current_);
+}
+
+std::string clipboardSeenByAnotherProgram() {
+  QProcess reader;
+  reader.start(QStringLiteral("xclip"),
+               {QStringLiteral("-selection"), QStringLiteral("clipboard"), QStringLiteral("-o")});
+  const bool finished =
+      QTest::qWaitFor([&] { return reader.state() == QProcess::NotRunning; }, 5000);
+  EXPECT_TRUE(finished && reader.exitCode() == 0) << "xclip could not read the clipboard";
+  return reader.readAllStandardOutput().toStdString();
+}
+
+}  // namespace tarnwick::tests

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "app/gen_var.h"
+#include "app/window_set.h"
+#include "ui/text.h"
+
+#include <QTest>
+#include <QWidget>
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace tarnwick::tests {
+
+// The program with its launcher open, and a user in front of it: what the user does reaches the
+// windows as mouse and key events, what the user sees is read by object names.
+class Program : public testing::Test {
+protected:
+  Program();
+  ~Program() override;
+
+  // Opens a window by its launcher button and turns to it.
+  void open(const std::string& launcherButton, const std::string& window);
+  // The window that is open under this name; the test fails when there is none.
+  QWidget* window(const std::string& name);
+  // The window that the test works in: the one opened last, unless it turns to another.
+  QWidget* current() { return current_; }
+  void turnTo(const std::string& window);
+
+  // A control of the current window.
+  template <typename Control = QWidget>
+  Control* control(const std::string& name) {
+    auto* found = current_->findChild<Control*>(ui::toQt(name));
+    EXPECT_NE(found, nullptr) << name;
+    return found;
+  }
+  std::string focused() const;
+
+  void click(const std::string& control);
+  // Clicks a place of a control given in pixels from its top left corner.
+  void clickAt(const std::string& control, QPoint place);
+  void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
+  void type(const std::string& characters);
+  // Goes to an entry field, empties it and types a text, without leaving it.
+  void enter(const std::string& field, const std::string& characters);
+  // The same, left to the window's validation by the Enter key.
+  void enterAndConfirm(const std::string& field, const std::string& characters);
+  // Pastes a text into a field as its context menu does.
+  void paste(const std::string& field, const std::string& text);
+  // Picks an item of a drop-down list, the current one too, by mouse.
+  void pick(const std::string& list, int item);
+
+  // What a one-line field, a column, a label or a list shows; a column's as the program sees it.
+  std::string shown(const std::string& control);
+  bool isSelected(const std::string& option);
+
+  // The message box that is open, or nothing.
+  QWidget* message() const;
+  // The message's title and text in one: "title: text"; empty when there is no message.
+  std::string messageShown() const;
+  void confirmMessage();
+
+  app::GenVar genVar;
+  app::WindowSet windows;
+
+private:
+  QWidget* current_ = nullptr;
+};
+
+// What another program finds on the clipboard (xclip; needs an X display).
+std::string clipboardSeenByAnotherProgram();
+
+}  // namespace tarnwick::tests
