@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
+#include <QDesktopServices>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -13,6 +14,7 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QUrl>
 
 namespace tarnwick::tests {
 namespace {
@@ -29,7 +31,28 @@ void turnToWindow(QWidget* window) {
 
 }  // namespace
 
-Program::Program() {
+// Takes what the desktop would open in a browser or a mail program.
+class Program::Shell : public QObject {
+  Q_OBJECT
+
+public:
+  explicit Shell(QStringList& addresses) : addresses_(addresses) {
+    for (const char* scheme : {"https", "mailto"})
+      QDesktopServices::setUrlHandler(QLatin1String(scheme), this, "take");
+  }
+  ~Shell() override {
+    for (const char* scheme : {"https", "mailto"})
+      QDesktopServices::unsetUrlHandler(QLatin1String(scheme));
+  }
+
+public slots:
+  void take(const QUrl& address) { addresses_ << address.toString(); }
+
+private:
+  QStringList& addresses_;
+};
+
+Program::Program() : shell_(std::make_unique<Shell>(addresses)) {
   app::addWindows(windows, genVar);
   windows.open("fMain");
   turnTo("fMain");
@@ -161,3 +184,5 @@ std::string clipboardSeenByAnotherProgram() {
 }
 
 }  // namespace tarnwick::tests
+
+#include "program.moc"

@@ -8,6 +8,7 @@
 #include <QWidget>
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <string>
 
 namespace tarnwick::tests {
@@ -62,8 +63,12 @@ protected:
 
   app::GenVar genVar;
   app::WindowSet windows;
+  // The addresses that the desktop was asked to open, in order; none is really opened.
+  QStringList addresses;
 
 private:
+  class Shell;
+  std::unique_ptr<Shell> shell_;
   QWidget* current_ = nullptr;
 };
 

@@ -1,0 +1,188 @@
+#include "support/program.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace tarnwick::tests {
+namespace {
+
+class Launcher : public Program {
+protected:
+  void command(const std::string& name) {
+    auto* menu = window("fMain")->findChild<QMenuBar*>();
+    auto* action = window("fMain")->findChild<QAction*>(ui::toQt(name));
+    ASSERT_NE(action, nullptr) << name;
+    EXPECT_EQ(action->menu<QMenu*>(), nullptr);
+    turnTo("fMain");
+    QTest::mouseClick(current()->windowHandle(), Qt::LeftButton, {},
+                      menu->mapTo(current(), menu->actionGeometry(action).center()));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+};
+
+TEST_F(Launcher, StandsWhereItWasDrawn) {
+  struct Button {
+    const char* name;
+    const char* caption;
+    int top;
+  };
+  EXPECT_EQ(current()->windowTitle(), "Quenby Tarnwick");
+  auto* picture = control<QLabel>("Picture1");
+  EXPECT_EQ(picture->geometry(), QRect(0, 0, 313, 241));
+  EXPECT_EQ(picture->pixmap(Qt::ReturnByValue).size() / picture->devicePixelRatio(),
+            QSize(313, 241));
+  std::string previous = focused();
+  for (const Button& b :
+       {Button{"cTimer", "Timer calc", 13}, Button{"cTimerHelper", "Timer helper", 37},
+        Button{"cUSART", "USART calc", 61}, Button{"cEUSART", "EUSART calc", 85},
+        Button{"cSerinSerout2", "SERIN/OUT2", 109}, Button{"cPWM", "PWM calc", 133},
+        Button{"cAD", "A/D Calc", 157}, Button{"Command1", "Comparator Vref", 181},
+        Button{"cCustomChar", "LCD custom character", 205}}) {
+    auto* button = control<QPushButton>(b.name);
+    EXPECT_EQ(ui::fromQt(button->text()), b.caption);
+    EXPECT_EQ(button->geometry(), QRect(180, b.top, 121, 23)) << b.name;
+    EXPECT_LE(button->fontMetrics().horizontalAdvance(button->text()), 115) << b.name;
+    if (!button->isEnabled()) continue;
+    EXPECT_EQ(focused(), b.name);  // the tab order runs from top to bottom
+    press(Qt::Key_Tab);
+  }
+}
+
+TEST_F(Launcher, OpensEachWindowOnceAndBringsItForward) {
+  open("cTimer", "fTimer");
+  enterAndConfirm("tOSC", "20");
+  QWidget* first = current();
+  first->showMinimized();
+  open("cTimer", "fTimer");
+  EXPECT_EQ(current(), first);
+  EXPECT_FALSE(first->isMinimized());
+  EXPECT_EQ(shown("tOSC"), "20");
+  EXPECT_TRUE(window("fMain")->isVisible());
+  EXPECT_EQ(first->parentWidget(), nullptr);
+}
+
+TEST_F(Launcher, AsksTheDesktopForWebSiteAndMail) {
+  command("Visite_our_Website");
+  command("Contact_us");
+  EXPECT_EQ(addresses, QStringList({"https://tarnwick.example/",
+                                    "mailto:contact@tarnwick.example?subject=Tarnwick&body="}));
+}
+
+TEST_F(Launcher, SetsTheMaximumOscillator) {
+  EXPECT_EQ(genVar.oscillator.MaxOsc, 64);
+}
+
+TEST_F(Launcher, ClosesEveryWindowInItsOrder) {
+  for (const bool byCommand : {true, false}) {
+    windows.open("fMain");
+    open("cTimer", "fTimer");
+    command("About");
+    std::vector<std::string> closed;
+    for (const char* name : {"fTimer", "fAbout", "fMain"})
+      QObject::connect(windows.loaded(name), &ui::Window::unloading, windows.loaded(name),
+                       [&closed, name] { closed.emplace_back(name); });
+    if (byCommand)
+      command("Exit");
+    else
+      window("fMain")->close();
+    EXPECT_EQ(closed, (std::vector<std::string>{"fAbout", "fTimer", "fMain"}));
+    for (const char* name : {"fTimer", "fAbout", "fMain"}) EXPECT_EQ(windows.loaded(name), nullptr);
+  }
+}
+
+TEST_F(Launcher, ClosesInTheMiddleOfAnEditWithoutValidating) {
+  open("cTimer", "fTimer");
+  enter("tOSC", "100");
+  window("fMain")->close();
+  EXPECT_EQ(windows.loaded("fTimer"), nullptr);
+  EXPECT_EQ(genVar.oscillator.Osc, 0);
+  EXPECT_EQ(message(), nullptr);
+}
+
+TEST_F(Launcher, ClosesWithAMessageOpen) {
+  for (const char* closing : {"fTimer", "fMain"}) {
+    windows.open("fMain");
+    open("cTimer", "fTimer");
+    enterAndConfirm("tOSC", "100");
+    EXPECT_NE(messageShown(), "");
+    windows.loaded(closing)->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(message(), nullptr) << closing;
+    EXPECT_EQ(windows.loaded("fTimer"), nullptr) << closing;
+  }
+}
+
+TEST_F(Launcher, ShowsTheAboutBox) {
+  command("About");
+  turnTo("fAbout");
+  EXPECT_EQ(current()->windowTitle(), "About Quenby Tarnwick");
+  EXPECT_EQ(shown("lblTitle"), "Quenby Tarnwick, WIP Version 1.3.1");
+  EXPECT_EQ(shown("lblCopyright"), "Copyright © 2026 Quenby");
+  EXPECT_EQ(shown("lblDescription"),
+            "We want to hear your suggestions and comments to\r\nimprove this software.\r\n\r\n"
+            "Together, let's make it better!");
+  EXPECT_EQ(shown("lblDisclaimer"),
+            "Warning: This software have been tested on most\r\n"
+            "popular PIC model.  If you discover any problem,\r\nplease contact us.");
+  EXPECT_EQ(focused(), "cmdOK");
+  press(Qt::Key_Space);
+  EXPECT_EQ(windows.loaded("fAbout"), nullptr);
+}
+
+class OscillatorField : public Program {
+protected:
+  OscillatorField() { open("cTimer", "fTimer"); }
+};
+
+TEST_F(OscillatorField, ShowsTheAcceptedFrequency) {
+  struct Case {
+    const char* typed;
+    const char* shown;
+  };
+  for (const Case& c :
+       {Case{"0", "1"}, Case{"", "1"}, Case{".", "1"}, Case{"64", "64"}, Case{"4.000", "4"},
+        Case{"3.6864", "3.6864"}, Case{"20.", "20"}, Case{"12345678", "64"}}) {
+    enter("tOSC", c.typed);
+    press(Qt::Key_Tab);
+    EXPECT_EQ(shown("tOSC"), c.shown) << c.typed;
+    if (message() != nullptr) confirmMessage();
+  }
+}
+
+TEST_F(OscillatorField, WarnsOnceHoweverItIsLeft) {
+  const std::vector<std::function<void()>> ways{
+      [&] { press(Qt::Key_Return); }, [&] { press(Qt::Key_Enter); },
+      [&] { press(Qt::Key_Tab); },    [&] { press(Qt::Key_Backtab); },
+      [&] { click("oType(2)"); },     [&] { clickAt("scrollpreload", {100, 8}); },
+      [&] { click("tReload"); },      [&] { click("tFreq"); }};
+  for (std::size_t way = 0; way < ways.size(); ++way) {
+    enter("tOSC", "64.5");
+    ways[way]();
+    EXPECT_EQ(messageShown(), "Oscillator speed to high: As now maximum allowed is 64 MHz") << way;
+    EXPECT_EQ(qobject_cast<QMessageBox*>(message())->icon(), QMessageBox::Warning);
+    confirmMessage();
+    EXPECT_EQ(message(), nullptr) << way;
+    EXPECT_EQ(shown("tOSC"), "64") << way;
+    EXPECT_EQ(shown("tFosc"), "16.0 MHz") << way;
+    EXPECT_TRUE(isSelected("oType(1)"));  // what was clicked did not act
+    EXPECT_EQ(shown("tPreLoad"), "0");
+    for (const auto* button : current()->findChildren<QAbstractButton*>())
+      EXPECT_FALSE(button->isDown()) << button->objectName().toStdString();
+  }
+}
+
+TEST_F(OscillatorField, IsNotLeftBySwitchingWindows) {
+  enter("tOSC", "100");
+  turnTo("fMain");
+  EXPECT_EQ(message(), nullptr);
+  turnTo("fTimer");
+  EXPECT_EQ(focused(), "tOSC");
+  EXPECT_EQ(shown("tOSC"), "100");
+}
+
+}  // namespace
+}  // namespace tarnwick::tests
