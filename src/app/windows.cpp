@@ -12,11 +12,4 @@ void addWindows(WindowSet& windows, GenVar& genVar) {
   windows.add("fTimer", [&] { return new forms::fTimer(genVar.oscillator); });
 }
 
-QIcon programIcon() {
-  QIcon icon;
-  for (const int size : {16, 24, 32, 48, 64, 128, 256})
-    icon.addFile(QStringLiteral(":/tarnwick-%1.png").arg(size), QSize(size, size));
-  return icon;
-}
-
 }  // namespace tarnwick::app

@@ -57,6 +57,7 @@ TEST_F(Launcher, OpensEachWindowOnceAndBringsItForward) {
   enterAndConfirm("tOSC", "20");
   QWidget* first = current();
   first->showMinimized();
+  QTest::qWait(200);  // a window manager takes its time
   open("cTimer", "fTimer");
   EXPECT_EQ(current(), first);
   EXPECT_FALSE(first->isMinimized());

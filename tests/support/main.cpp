@@ -1,4 +1,4 @@
-#include "app/windows.h"
+#include "app/program.h"
 
 #include <QApplication>
 #include <gtest/gtest.h>

@@ -26,7 +26,10 @@ void settle() {
 
 void turnToWindow(QWidget* window) {
   window->activateWindow();
-  EXPECT_TRUE(QTest::qWaitForWindowActive(window)) << window->objectName().toStdString();
+  // isActiveWindow() holds for the parent of an active message box too: the focus tells them apart.
+  EXPECT_TRUE(QTest::qWaitFor(
+      [&] { return QGuiApplication::focusWindow() == window->windowHandle(); }, 5000))
+      << window->objectName().toStdString();
 }
 
 }  // namespace

@@ -1,0 +1,29 @@
+#include "app/program.h"
+
+#include "app/gen_var.h"
+#include "app/windows.h"
+#include "common/product.h"
+#include "ui/text.h"
+
+#include <QApplication>
+
+namespace tarnwick::app {
+
+QIcon programIcon() {
+  QIcon icon;
+  for (const int size : {16, 24, 32, 48, 64, 128, 256})
+    icon.addFile(QStringLiteral(":/tarnwick-%1.png").arg(size), QSize(size, size));
+  return icon;
+}
+
+int run() {
+  QApplication::setApplicationName(ui::toQt(common::product::name));
+  QApplication::setWindowIcon(programIcon());
+  GenVar genVar;
+  WindowSet windows;
+  addWindows(windows, genVar);
+  windows.open("fMain");
+  return QApplication::exec();
+}
+
+}  // namespace tarnwick::app
