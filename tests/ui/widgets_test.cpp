@@ -105,8 +105,18 @@ TEST_F(Widgets, EntryFieldIsLeftOnlyForAnotherControlOfItsWindow) {
 
 TEST_F(Widgets, EntryFieldMayBeLeftAndRefocusedByItsOwnValidation) {
   QObject::connect(&field, &ui::EntryField::validate, [this] { field.setFocus(); });
+  QObject::connect(&other, &ui::EntryField::focusGained, [this] { heard << "other entered"; });
   QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, other.geometry().center());
   EXPECT_TRUE(field.hasFocus());
+  EXPECT_EQ(take(), QStringList({"validate", "validate", "focusLost"}));
+}
+
+TEST_F(Widgets, WindowShowsOneMessageAtATime) {
+  for (const char* text : {"first", "second"})
+    window.showMessage(QMessageBox::Critical, "title", text);
+  const auto boxes = window.findChildren<QMessageBox*>();
+  ASSERT_EQ(boxes.size(), 1);
+  EXPECT_EQ(boxes.front()->text(), "first");
 }
 
 TEST_F(Widgets, EntryFieldIsCutAtItsLength) {
