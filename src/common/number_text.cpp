@@ -1,5 +1,6 @@
 #include "common/number_text.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -11,71 +12,69 @@ namespace {
 
 constexpr int significantDigits = 15;
 
-// A finite value as 15 significant decimal digits: 0.d0 d1 d2 ... times ten to the power `point`,
-// so `point` is the number of digits before the decimal point.
+// A finite value as at most 15 significant decimal digits, no "0" at their end: 0.d0d1d2... times
+// ten to the power `point`, so `point` is the number of digits before the decimal point.
 struct DecimalForm {
   bool negative = false;
-  bool zero = true;
-  std::array<char, significantDigits + 1> digits{};  // one more for the carry of a rounding
-  int count = 0;
+  std::array<char, significantDigits> digits{};
+  int count = 0;  // none stand for zero
   int point = 0;
+
+  bool zero() const { return count == 0; }
+
+  // The digit `place` positions left of the decimal point (0 is the units digit, -1 the tenths).
+  char digitAt(int place) const {
+    const int index = point - 1 - place;
+    return index >= 0 && index < count ? digits.data()[index] : '0';
+  }
+
+  // Keeps the first `length` digits, less the "0" at their end.
+  void cutTo(int length) {
+    count = length;
+    while (count > 0 && digits.data()[count - 1] == '0') --count;
+  }
 };
 
 DecimalForm decimalForm(double value) {
-  DecimalForm form;
-  form.negative = std::signbit(value);
   std::array<char, 32> text;  // d.dddddddddddddde[+-]ddd
   const auto end = std::to_chars(text.data(), text.data() + text.size(), std::fabs(value),
                                  std::chars_format::scientific, significantDigits - 1);
-  const char* c = text.data();
-  form.digits[0] = *c;
-  c += 2;
-  for (int i = 1; i < significantDigits; ++i) form.digits[static_cast<std::size_t>(i)] = *c++;
-  ++c;
-  if (*c == '+') ++c;
-  int exponent = 0;
-  std::from_chars(c, end.ptr, exponent);
-  form.point = exponent + 1;
-  form.zero = form.digits[0] == '0';
-  form.count = significantDigits;
-  while (form.count > 0 && form.digits[static_cast<std::size_t>(form.count - 1)] == '0')
-    --form.count;
+  DecimalForm form;
+  form.negative = std::signbit(value);
+  form.digits[0] = text[0];
+  std::copy_n(text.data() + 2, significantDigits - 1, form.digits.data() + 1);
+  form.cutTo(significantDigits);
+  const char* exponent = text.data() + significantDigits + 2;
+  if (*exponent == '+') ++exponent;
+  std::from_chars(exponent, end.ptr, form.point);
+  ++form.point;
   return form;
+}
+
+// Adds one to the last of the digits.
+void increment(DecimalForm& form) {
+  char* const digits = form.digits.data();
+  while (form.count > 0 && digits[form.count - 1] == '9') --form.count;
+  if (form.count > 0) {
+    ++digits[form.count - 1];
+    return;
+  }
+  digits[0] = '1';
+  form.count = 1;
+  ++form.point;
 }
 
 // Rounds to `places` digits after the decimal point, halves away from zero.
 void roundToPlaces(DecimalForm& form, int places) {
   const int keep = form.point + places;
   if (keep >= form.count) return;
-  if (keep < 0) {
-    form.count = 0;
-    form.zero = true;
+  const bool up = keep >= 0 && form.digits.data()[keep] >= '5';
+  if (!up) {
+    form.cutTo(std::max(keep, 0));
     return;
   }
-  const bool up = form.digits[static_cast<std::size_t>(keep)] >= '5';
   form.count = keep;
-  if (up) {
-    int last = keep - 1;
-    while (last >= 0 && form.digits[static_cast<std::size_t>(last)] == '9') --last;
-    if (last >= 0) {
-      ++form.digits[static_cast<std::size_t>(last)];
-      form.count = last + 1;
-    } else {
-      form.digits[0] = '1';
-      form.count = 1;
-      ++form.point;
-    }
-  }
-  while (form.count > 0 && form.digits[static_cast<std::size_t>(form.count - 1)] == '0')
-    --form.count;
-  form.zero = form.count == 0;
-}
-
-// The digit `place` positions left of the decimal point (0 is the units digit, -1 the tenths).
-char digitAt(const DecimalForm& form, int place) {
-  const int index = form.point - 1 - place;
-  if (index < 0 || index >= form.count) return '0';
-  return form.digits[static_cast<std::size_t>(index)];
+  increment(form);
 }
 
 // What a pattern asks for, by the counts that the digits depend on.
@@ -84,16 +83,18 @@ struct PatternShape {
   int integerZeros = 0;
   int fractionPositions = 0;
   int fractionZeros = 0;
-  bool percent = false;
+  int copied = 0;  // characters that are no digit positions
 };
 
 PatternShape shapeOf(std::string_view pattern) {
   PatternShape shape;
   bool point = false;
   for (const char c : pattern) {
-    if (c == '%') shape.percent = true;
     if (c == '.') point = true;
-    if (c != '0' && c != '#') continue;
+    if (c != '0' && c != '#') {
+      ++shape.copied;
+      continue;
+    }
     ++(point ? shape.fractionPositions : shape.integerPositions);
     if (c == '0') ++(point ? shape.fractionZeros : shape.integerZeros);
   }
@@ -101,58 +102,60 @@ PatternShape shapeOf(std::string_view pattern) {
 }
 
 int integerDigitsOf(const DecimalForm& form, const PatternShape& shape) {
-  const int significant = form.zero || form.point < 0 ? 0 : form.point;
-  return significant > shape.integerZeros ? significant : shape.integerZeros;
+  return std::max(form.zero() ? 0 : form.point, shape.integerZeros);
 }
 
 int fractionDigitsOf(const DecimalForm& form, const PatternShape& shape) {
-  const int significant = form.zero ? 0 : form.count - form.point;
-  return significant > shape.fractionZeros ? significant : shape.fractionZeros;
+  return std::max(form.zero() ? 0 : form.count - form.point, shape.fractionZeros);
 }
 
 // Writes the pattern character by character, each digit position taking the digits that belong to
 // it: the first integer position also those to its left.
-std::string write(const DecimalForm& form, const PatternShape& shape, std::string_view pattern) {
+std::string write(const DecimalForm& form, const PatternShape& shape, std::string_view pattern,
+                  std::string_view unit) {
   const int integerDigits = integerDigitsOf(form, shape);
   const int fractionDigits = fractionDigitsOf(form, shape);
+  const bool negative = form.negative && !form.zero();
   std::string text;
-  text.reserve(pattern.size() + static_cast<std::size_t>(integerDigits) + 1);
-  if (form.negative && !form.zero) text.push_back('-');
+  text.reserve(static_cast<std::size_t>(integerDigits + fractionDigits + shape.copied + negative) +
+               unit.size());
+  if (negative) text.push_back('-');
   int place = integerDigits - 1;
+  const auto writeDownTo = [&](int last) {
+    for (; place >= last; --place) text.push_back(form.digitAt(place));
+  };
   int positionsLeft = shape.integerPositions;
   int fractionPlace = 0;
   bool point = false;
   for (const char c : pattern) {
-    if (c == '.' && !point) {
-      point = true;
-      text.push_back(c);
-    } else if (c != '0' && c != '#') {
+    const bool position = c == '0' || c == '#';
+    if (!position) {
+      if (c == '.' && !point) writeDownTo(0);
+      if (c == '.') point = true;
       text.push_back(c);
     } else if (point) {
-      if (fractionPlace++ < fractionDigits) text.push_back(digitAt(form, -fractionPlace));
+      if (fractionPlace++ < fractionDigits) text.push_back(form.digitAt(-fractionPlace));
     } else {
-      --positionsLeft;
-      for (; place >= positionsLeft; --place) text.push_back(digitAt(form, place));
+      writeDownTo(--positionsLeft);
     }
   }
+  text.append(unit);
   return text;
 }
 
 }  // namespace
 
 std::string format(double value, std::string_view pattern) {
-  const PatternShape shape = shapeOf(pattern);
-  if (shape.percent) value *= 100;
-  if (!std::isfinite(value)) return {};
-  DecimalForm form = decimalForm(value);
-  roundToPlaces(form, shape.fractionPositions);
-  return write(form, shape, pattern);
+  return formatWithUnit(value, pattern, {});
 }
 
 std::string formatWithUnit(double value, std::string_view pattern, std::string_view unit) {
-  std::string text = format(value, pattern);
-  if (std::isfinite(value)) text += unit;
-  return text;
+  if (pattern.find('%') != std::string_view::npos) value *= 100;
+  if (!std::isfinite(value)) return {};
+  const PatternShape shape = shapeOf(pattern);
+  DecimalForm form = decimalForm(value);
+  roundToPlaces(form, shape.fractionPositions);
+  return write(form, shape, pattern, unit);
 }
 
 std::string numberText(double value) {

@@ -1,10 +1,12 @@
 #include "common/read_number.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <cstddef>
+#include <cstdint>
 #include <limits>
-#include <string>
 #include <system_error>
 
 namespace tarnwick::common {
@@ -47,116 +49,101 @@ private:
   std::size_t at_ = 0;
 };
 
-// The characters of a decimal number as std::from_chars wants them. Ordinary numbers fit the
-// array; only longer ones go to the heap.
-class Digits {
-public:
-  void add(char c) {
-    if (size_ < small_.size()) {
-      small_[size_++] = c;
-      return;
-    }
-    if (large_.empty()) large_.assign(small_.data(), size_);
-    large_.push_back(c);
-  }
-  std::string_view view() const {
-    return large_.empty() ? std::string_view(small_.data(), size_) : std::string_view(large_);
-  }
-
-private:
-  std::array<char, 64> small_;
-  std::size_t size_ = 0;
-  std::string large_;
-};
-
-int hexDigitValue(char c) {
+int digitValue(char c) {
   if (isDigit(c)) return c - '0';
   if (c >= 'A' && c <= 'F') return c - 'A' + 10;
   if (c >= 'a' && c <= 'f') return c - 'a' + 10;
   return 16;
 }
 
+// Reads a hexadecimal or octal whole number behind its "&". The first 61 to 64 bits are kept as
+// they are, any one further on only in the lowest of them: enough to round as the whole text does.
 double readRadix(Scanner& scanner) {
   const char mark = scanner.take();
   const bool hexadecimal = mark == 'H' || mark == 'h';
   if (!hexadecimal && mark != 'O' && mark != 'o') return 0;
-  const int radix = hexadecimal ? 16 : 8;
-  double value = 0;
-  while (hexDigitValue(scanner.peek()) < radix) {
-    value = value * radix + hexDigitValue(scanner.take());
-    if (value > largest) return largest;
+  const int bitsPerDigit = hexadecimal ? 4 : 3;
+  std::uint64_t bits = 0;
+  int power = 0;  // of two, by which the bits are multiplied
+  while (digitValue(scanner.peek()) < 1 << bitsPerDigit) {
+    const auto digit = static_cast<unsigned>(digitValue(scanner.take()));
+    if (bits >> 60 == 0) {
+      bits = bits << bitsPerDigit | digit;
+    } else {
+      if (digit != 0) bits |= 1;
+      power = std::min(power + bitsPerDigit, 2000);  // far beyond the range of a double
+    }
   }
-  return value;
+  return std::min(std::ldexp(static_cast<double>(bits), power), largest);
 }
 
-// Reads the digits of an exponent whose letter has been taken; none give 0. Exponents beyond any
-// text's reach are cut, so that their sum with a count of digits cannot overflow.
-long readExponent(Scanner& scanner) {
-  constexpr long reach = 1'000'000'000'000;
-  const bool negative = scanner.peek() == '-';
-  if (negative || scanner.peek() == '+') scanner.take();
-  long exponent = 0;
-  while (isDigit(scanner.peek())) {
-    exponent = exponent * 10 + (scanner.take() - '0');
-    if (exponent > reach) exponent = reach;
+// The digits of a decimal number from the first one on that is not 0, as the whole number that
+// they make, times ten to the power `power`. More digits than the array holds cannot change what
+// the number rounds to, except by one of them not being 0; the last digit kept stands for that.
+struct Decimal {
+  static constexpr std::size_t maximum = 800;  // halfway between two doubles needs at most 768
+  static constexpr std::size_t exponentRoom = 24;
+
+  std::array<char, maximum + exponentRoom> digits;
+  std::size_t count = 0;
+  std::int64_t power = 0;
+
+  void add(char digit, bool fraction) {
+    if (count < maximum) {
+      if (count > 0 || digit != '0') digits[count++] = digit;
+      if (fraction) --power;
+      return;
+    }
+    if (digit != '0') digits[maximum - 1] = '1';
+    if (!fraction) ++power;
   }
+};
+
+void readMantissa(Scanner& scanner, Decimal& decimal) {
+  bool point = false;
+  for (;; scanner.take()) {
+    const char c = scanner.peek();
+    if (isDigit(c)) {
+      decimal.add(c, point);
+    } else if (c == '.' && !point) {
+      point = true;
+    } else {
+      return;
+    }
+  }
+}
+
+// Reads what follows a mantissa: an exponent's letter, sign and digits; what is missing counts as
+// 0. Exponents beyond any text's reach are cut, so that no sum with a count of digits can overflow.
+std::int64_t readExponent(Scanner& scanner) {
+  constexpr std::int64_t reach = 1'000'000'000'000'000;
+  const char mark = scanner.peek();
+  if (mark != 'E' && mark != 'e' && mark != 'D' && mark != 'd') return 0;
+  scanner.take();
+  const bool negative = scanner.takeIf('-');
+  if (!negative) scanner.takeIf('+');
+  std::int64_t exponent = 0;
+  while (isDigit(scanner.peek()))
+    exponent = std::min(exponent * 10 + (scanner.take() - '0'), reach);
   return negative ? -exponent : exponent;
 }
 
-// A decimal number's digits with the power of ten of their first significant one.
-struct Decimal {
-  Digits digits;
-  bool anyDigit = false;
-  bool anySignificant = false;
-  long leadingPower = -1;  // counts up by the integer digits from the first significant one on,
-                           // down by the zeros that stand between the point and that digit
-};
-
-Decimal readMantissa(Scanner& scanner) {
-  Decimal decimal;
-  bool point = false;
-  for (;;) {
-    const char c = scanner.peek();
-    if (c == '.' && !point) {
-      point = true;
-    } else if (isDigit(c)) {
-      decimal.anyDigit = true;
-      const bool leadingZero = c == '0' && !decimal.anySignificant;
-      if (!leadingZero) decimal.anySignificant = true;
-      if (leadingZero && point) --decimal.leadingPower;
-      if (!leadingZero && !point) ++decimal.leadingPower;
-    } else {
-      return decimal;
-    }
-    decimal.digits.add(scanner.take());
-  }
-}
-
-void addExponent(Digits& digits, long exponent) {
-  std::array<char, 24> text;
-  const auto end = std::to_chars(text.data(), text.data() + text.size(), exponent);
-  digits.add('e');
-  for (const char* c = text.data(); c != end.ptr; ++c) digits.add(*c);
-}
-
 double readDecimal(Scanner& scanner) {
-  Decimal decimal = readMantissa(scanner);
-  if (!decimal.anySignificant) return 0;
+  Decimal decimal;
+  readMantissa(scanner, decimal);
+  if (decimal.count == 0) return 0;
 
-  long power = decimal.leadingPower;
-  const char mark = scanner.peek();
-  if (mark == 'E' || mark == 'e' || mark == 'D' || mark == 'd') {
-    scanner.take();
-    const long exponent = readExponent(scanner);
-    power += exponent;
-    addExponent(decimal.digits, exponent);
+  const std::int64_t power = decimal.power + readExponent(scanner);
+  char* const first = decimal.digits.data();
+  char* end = first + decimal.count;
+  if (power != 0) {
+    *end++ = 'e';
+    end = std::to_chars(end, first + decimal.digits.size(), power).ptr;
   }
-
-  const std::string_view text = decimal.digits.view();
   double value = 0;
-  const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
-  if (result.ec == std::errc::result_out_of_range) return power > 0 ? largest : 0;
-  return value;
+  const auto result = std::from_chars(first, end, value);
+  if (result.ec != std::errc::result_out_of_range) return value;
+  return power > -static_cast<std::int64_t>(decimal.count) ? largest : 0;
 }
 
 }  // namespace
