@@ -2,6 +2,8 @@
 
 #include "app/fAbout.h"
 #include "app/fMain.h"
+#include "forms/fComparator.h"
+#include "forms/fMinADTime.h"
 #include "forms/fTimer.h"
 
 namespace tarnwick::app {
@@ -9,6 +11,8 @@ namespace tarnwick::app {
 void addWindows(WindowSet& windows, GenVar& genVar) {
   windows.add("fMain", [&] { return new fMain(windows, genVar); });
   windows.add("fAbout", [] { return new fAbout; });
+  windows.add("fComparator", [] { return new forms::fComparator; });
+  windows.add("fMinADTime", [&] { return new forms::fMinADTime(genVar.oscillator); });
   windows.add("fTimer", [&] { return new forms::fTimer(genVar.oscillator); });
 }
 

@@ -1,0 +1,106 @@
+#include "forms/fComparator.h"
+
+#include "calc/comparator.h"
+#include "common/product.h"
+#include "ui/layout.h"
+#include "ui/text.h"
+
+namespace tarnwick::forms {
+namespace {
+
+constexpr int lowRange = 1;  // oVrefRange indices
+constexpr int highRange = 2;
+constexpr int columnLines = 16;
+
+// A bold label that holds the span of a range and never widens the window.
+QLabel* spanLabel(QWidget* parent, std::string_view name) {
+  QLabel* label = ui::label(parent, name, "");
+  QFont bold = label->font();
+  bold.setBold(true);
+  label->setFont(bold);
+  label->setMinimumWidth(
+      label->fontMetrics().horizontalAdvance(QStringLiteral("-00.000 - -00.000 Volt")));
+  label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  return label;
+}
+
+}  // namespace
+
+fComparator::fComparator() : Window("fComparator", "Comparator Vref") {
+  layOut();
+  connectEvents();
+  Form_Load();
+}
+
+void fComparator::layOut() {
+  auto* fVdd = ui::group(this, "fVdd", "Vdd");
+  tVdd = new ui::EntryField(fVdd, "tVdd",
+                            {.keys = common::decimalKey,
+                             .pointTyped = &VddPointTyped,
+                             .clearsPointOnEntering = true,
+                             .validatesOnFocusLost = true});
+  ui::nameAfter(tVdd, "Vdd (Volt)");
+  ui::row(fVdd, {tVdd, ui::label(fVdd, "tLabelVdd", "Volt")});
+
+  auto* fVrefRange = ui::group(this, "fVrefRange", "Vref range");
+  oVrefRange = new ui::OptionGroup(fVrefRange, "oVrefRange",
+                                   {{lowRange, "Low  (CVRR=0)"}, {highRange, "High (CVRR=1)"}});
+  tLabelLowRange = spanLabel(fVrefRange, "tLabelLowRange");
+  tLabelHighRange = spanLabel(fVrefRange, "tLabelHighRange");
+  auto* ranges = ui::grid(fVrefRange);
+  ranges->addWidget(oVrefRange->button(lowRange), 0, 0);
+  ranges->addWidget(tLabelLowRange, 1, 0);
+  ranges->addWidget(oVrefRange->button(highRange), 2, 0);
+  ranges->addWidget(tLabelHighRange, 3, 0);
+
+  auto* fResults = ui::group(this, "fResults", "Results");
+  Text1 = new ui::ResultColumn(fResults, "Text1", "000000000", columnLines);
+  tVref = new ui::ResultColumn(fResults, "tVref", "-0000.000", columnLines);
+  ui::nameAfter(Text1, "CVR<3:0>");
+  ui::nameAfter(tVref, "Vref (Volt)");
+  auto* results = ui::grid(fResults);
+  results->addWidget(ui::label(fResults, "tlabel(0)", "CVR<3:0>"), 0, 0);
+  results->addWidget(ui::label(fResults, "tlabel(1)", "Vref (Volt)"), 0, 1);
+  results->addWidget(Text1, 1, 0);
+  results->addWidget(tVref, 1, 1);
+
+  auto* window = ui::grid(this);
+  window->addWidget(fVdd, 0, 0);
+  window->addWidget(fVrefRange, 1, 0);
+  window->addWidget(fResults, 0, 1, 3, 1);
+  window->setRowStretch(2, 1);
+  ui::fixToContent(this);
+}
+
+void fComparator::connectEvents() {
+  connect(tVdd, &ui::EntryField::validate, this, &fComparator::tVdd_Validate);
+  connect(oVrefRange, &ui::OptionGroup::chosen, this, &fComparator::CalcVref);
+}
+
+void fComparator::Form_Load() {
+  Text1->setContents(calc::cvrColumn());
+  tVdd->setContents("5");
+  oVrefRange->select(lowRange);
+  CalcVref();
+}
+
+void fComparator::CalcVref() {
+  const double Vdd = tVdd->number();
+  const auto range =
+      oVrefRange->selected() == lowRange ? calc::VrefRange::Low : calc::VrefRange::High;
+  tLabelLowRange->setText(ui::toQt(calc::lowRangeText(Vdd)));
+  tLabelHighRange->setText(ui::toQt(calc::highRangeText(Vdd)));
+  tVref->setContents(calc::vrefColumn(range, Vdd));
+}
+
+void fComparator::tVdd_Validate() {
+  if (calc::isValidVdd(tVdd->number())) {
+    CalcVref();
+    return;
+  }
+  showMessage(QMessageBox::Critical, common::product::title, "Invalid Vdd");
+  VddPointTyped = false;
+  tVdd->setFocus();
+}
+
+}  // namespace tarnwick::forms

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "ui/entry_field.h"
+#include "ui/widgets.h"
+
+namespace tarnwick::forms {
+
+// Comparator reference: the 16 voltages that the reference makes of a supply.
+class fComparator : public ui::Window {
+public:
+  fComparator();
+
+private:
+  void layOut();
+  void connectEvents();
+  void Form_Load();
+
+  // Reads supply and range and rewrites both range labels and the column of voltages.
+  void CalcVref();
+
+  void tVdd_Validate();
+
+  ui::EntryField* tVdd;
+  ui::OptionGroup* oVrefRange;
+  QLabel* tLabelLowRange;
+  QLabel* tLabelHighRange;
+  ui::ResultColumn* Text1;
+  ui::ResultColumn* tVref;
+
+  bool VddPointTyped = false;
+};
+
+}  // namespace tarnwick::forms
