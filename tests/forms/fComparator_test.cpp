@@ -1,5 +1,6 @@
 #include "support/program.h"
 
+#include <QAbstractButton>
 #include <QMessageBox>
 
 #include <algorithm>
@@ -35,6 +36,7 @@ protected:
     EXPECT_EQ(shown("tVref"), low5);
     EXPECT_EQ(spans(), spans5);
     EXPECT_TRUE(isSelected("oVrefRange(1)"));
+    EXPECT_FALSE(control<QAbstractButton>("oVrefRange(2)")->isDown());
   }
 };
 
@@ -43,6 +45,8 @@ TEST_F(ComparatorWindow, OpensWithItsDefaults) {
   EXPECT_EQ(shown("tVdd") + shown("tLabelVdd"), "5Volt");
   EXPECT_EQ(shown("tlabel(0)") + shown("tlabel(1)"), "CVR<3:0>Vref (Volt)");
   EXPECT_TRUE(isSelected("oVrefRange(1)"));
+  EXPECT_EQ(control<QAbstractButton>("oVrefRange(1)")->text(), "Low  (CVRR=0)");
+  EXPECT_EQ(control<QAbstractButton>("oVrefRange(2)")->text(), "High (CVRR=1)");
   EXPECT_EQ(shown("Text1"),
             "0000\r\n0001\r\n0010\r\n0011\r\n0100\r\n0101\r\n0110\r\n0111\r\n"
             "1000\r\n1001\r\n1010\r\n1011\r\n1100\r\n1101\r\n1110\r\n1111\r\n");
@@ -91,6 +95,10 @@ TEST_F(ComparatorWindow, GivesThePointBackAfterTheMessage) {
   expectRefusal("5.9");
   type(".");
   EXPECT_EQ(shown("tVdd"), "5.9.");
+  enter("tVdd", "4");
+  press(Qt::Key_Tab);
+  enter("tVdd", "4.5");  // entering the field gives it back too
+  EXPECT_EQ(shown("tVdd"), "4.5");
 }
 
 TEST_F(ComparatorWindow, AsksForNothingWhenTheUserTurnsAwayOrCloses) {
