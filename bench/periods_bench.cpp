@@ -15,7 +15,7 @@ void BM_PwmSearchWithDuty(benchmark::State& state) {
     benchmark::DoNotOptimize(Fosc);
     benchmark::DoNotOptimize(F);
     const PwmMatches matches = PwmSearch(Fosc, F);
-    for (const auto& match : matches.slots)
+    for (const auto& match : matches.bySlot)
       if (match) benchmark::DoNotOptimize(PwmDuty(*match, 50, Fosc));
     benchmark::DoNotOptimize(matches);
   }

@@ -45,7 +45,7 @@ PwmMatches PwmSearch(double Fosc, double F) {
     if (PR2 < 0) matches.aboveRange = true;
     if (!(PR2 >= 0 && PR2 <= 255)) continue;
     ++matches.MatchCount;
-    matches.slots[i] = matchFor(Fosc, F, P, roundHalfEven(PR2));
+    matches.bySlot[i] = matchFor(Fosc, F, P, roundHalfEven(PR2));
   }
   return matches;
 }
@@ -82,7 +82,7 @@ PwmLimitTexts pwmLimitTexts(const PwmLimits& limits) {
 
 PwmMatchTexts pwmMatchTexts(const PwmMatches& matches, bool inKHz) {
   PwmMatchTexts texts;
-  for (const auto& match : matches.slots) {
+  for (const auto& match : matches.bySlot) {
     if (!match) continue;
     addLine(texts.calcFreq, " " + (inKHz ? format(match->FreqKHz, "0.0## KHz")
                                          : format(match->FreqKHz * 1000, "0.0## Hz")));
@@ -98,7 +98,7 @@ PwmMatchTexts pwmMatchTexts(const PwmMatches& matches, bool inKHz) {
 std::optional<PwmDutyTexts> pwmDutyTexts(const PwmMatches& matches, double D, double Fosc) {
   if (Fosc == 0) return std::nullopt;
   PwmDutyTexts texts;
-  for (const auto& match : matches.slots) {
+  for (const auto& match : matches.bySlot) {
     if (!match) continue;
     const PwmDutyValue duty = PwmDuty(*match, D, Fosc);
     addLine(texts.dutyRegister,

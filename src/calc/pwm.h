@@ -27,7 +27,7 @@ struct PwmMatch {
 };
 
 struct PwmMatches {
-  std::array<std::optional<PwmMatch>, 3> slots;  // by index of pwmPrescalers, not by rank
+  std::array<std::optional<PwmMatch>, 3> bySlot;  // by index of pwmPrescalers, not by rank
   std::uint8_t MatchCount = 0;
   bool aboveRange = false;  // some prescaler would need a PR2 below 0
 };

@@ -25,8 +25,8 @@ TEST(PwmRange, ShowsWhatTheOscillatorReaches) {
 
 TEST(PwmSearch, ListsTheDefaultMatchesInTheirSlots) {
   const PwmMatches matches = PwmSearch(4e6, 1000);
-  EXPECT_FALSE(matches.slots[0]);
-  EXPECT_TRUE(matches.slots[1] && matches.slots[2]);
+  EXPECT_FALSE(matches.bySlot[0]);
+  EXPECT_TRUE(matches.bySlot[1] && matches.bySlot[2]);
   EXPECT_EQ(matches.MatchCount, 2);
   const PwmMatchTexts texts = pwmMatchTexts(matches, true);
   EXPECT_EQ(texts.calcFreq, " 1.0 KHz\r\n 0.992 KHz\r\n");
@@ -49,7 +49,7 @@ TEST(PwmSearch, TestsThePeriodRegisterBeforeItIsRounded) {
        {Case{1e6 / 256.2, {}, false}, Case{1e6 / 255.6, 255, false}, Case{1e6 / 24, 23, false},
         Case{1e6, 0, true}, Case{1e6 / 0.9, {}, true}, Case{1e6 / 3.5, 2, true}}) {
     const PwmMatches matches = PwmSearch(4e6, c.F);
-    const auto& match = matches.slots[0];
+    const auto& match = matches.bySlot[0];
     EXPECT_EQ(match ? std::optional(match->PR2) : std::nullopt, c.PR2) << c.F;
     EXPECT_EQ(matches.aboveRange, c.aboveRange) << c.F;
   }
@@ -97,7 +97,7 @@ TEST(PwmDuty, FillsItsColumns) {
 TEST(PwmDuty, ShowsLargeRegistersInThousands) {
   PwmMatches matches;
   for (std::size_t i = 0; i < 2; ++i)
-    matches.slots[i] = PwmMatch{.FreqKHz = 1, .MaxDutyVal = i == 0 ? 1999. : 2500.};
+    matches.bySlot[i] = PwmMatch{.FreqKHz = 1, .MaxDutyVal = i == 0 ? 1999. : 2500.};
   EXPECT_EQ(pwmDutyTexts(matches, 100, 4e6)->dutyRegister, "1999\r\n2.5\r\n");
 }
 
@@ -117,7 +117,7 @@ TEST(PwmSearch, FindsExactlyThePrescalersThatFit) {
     const PwmMatches matches = PwmSearch(Fosc, F);
     int count = 0;
     for (std::size_t i = 0; i < pwmPrescalers.size(); ++i) {
-      const auto& match = matches.slots[i];
+      const auto& match = matches.bySlot[i];
       const long double P = pwmPrescalers[i];
       const long double exact = static_cast<long double>(Fosc) / F / 4 / P - 1;
       const bool near = std::fabs(exact) < 1e-9L || std::fabs(exact - 255) < 1e-9L;
