@@ -36,6 +36,18 @@ void labelledRow(QGridLayout* grid, std::string_view labelName, std::string_view
   grid->addWidget(field, row, 1);
 }
 
+ResultColumn* headedColumn(QGridLayout* grid, std::string_view name, std::string_view heading,
+                           std::string_view widest, int lines) {
+  auto* column = new ResultColumn(grid->parentWidget(), name, widest, lines);
+  auto* text = label(grid->parentWidget(), "Heading_" + std::string(name), heading);
+  text->setBuddy(column);
+  nameAfter(column, heading);
+  const int at = grid->columnCount();
+  grid->addWidget(text, 0, at, Qt::AlignLeft | Qt::AlignBottom);
+  grid->addWidget(column, 1, at);
+  return column;
+}
+
 void fixToContent(QWidget* window) {
   window->layout()->setSizeConstraint(QLayout::SetFixedSize);
 }

@@ -20,6 +20,11 @@ void row(QWidget* parent, std::initializer_list<QWidget*> controls);
 void labelledRow(QGridLayout* grid, std::string_view labelName, std::string_view labelText,
                  QWidget* field);
 
+// Adds a result column to the right end of the grid, under its heading, which names it; `widest`
+// and `lines` are those of the column.
+ResultColumn* headedColumn(QGridLayout* grid, std::string_view name, std::string_view heading,
+                           std::string_view widest, int lines);
+
 // Keeps a window at the size of its content.
 void fixToContent(QWidget* window);
 

@@ -58,6 +58,7 @@ public:
 
   [[nodiscard]] const std::string& contents() const { return contents_; }
   void setContents(std::string_view text);
+  [[nodiscard]] QSize sizeHint() const override { return minimumSize(); }
 
 private:
   std::string contents_;

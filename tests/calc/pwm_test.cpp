@@ -1,0 +1,147 @@
+#include "calc/pwm.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <random>
+
+namespace tarnwick::calc {
+namespace {
+
+TEST(PwmRange, ShowsWhatTheOscillatorReaches) {
+  struct Case {
+    double Fosc;
+    const char* min;
+    const char* max;
+  };
+  for (const Case& c : {Case{4e6, "244.141 Hz", "500.0 KHz"}, Case{20e6, "1.221 KHz", "2.5 MHz"},
+                        Case{8e6, "488.281 Hz", "1.0 MHz"}, Case{16.384e6, "1.0 KHz", "2.048 MHz"},
+                        Case{0, "0.0 Hz", "0.0 KHz"}}) {
+    const PwmLimitTexts texts = pwmLimitTexts(PwmRange(c.Fosc));
+    EXPECT_EQ(texts.min, c.min);
+    EXPECT_EQ(texts.max, c.max);
+  }
+}
+
+TEST(PwmSearch, ListsTheDefaultMatchesInTheirSlots) {
+  const PwmMatches matches = PwmSearch(4e6, 1000);
+  EXPECT_FALSE(matches.bySlot[0]);
+  EXPECT_TRUE(matches.bySlot[1] && matches.bySlot[2]);
+  EXPECT_EQ(matches.MatchCount, 2);
+  const PwmMatchTexts texts = pwmMatchTexts(matches, true);
+  EXPECT_EQ(texts.calcFreq, " 1.0 KHz\r\n 0.992 KHz\r\n");
+  EXPECT_EQ(texts.prescaler, "1:4\r\n1:16\r\n");
+  EXPECT_EQ(texts.resolution, "10 Bit\r\n8 Bit\r\n");
+  EXPECT_EQ(texts.maxDutyVal, "1000\r\n250\r\n");
+  EXPECT_EQ(texts.dutyStep, "0.1 %\r\n0.4 %\r\n");
+  EXPECT_EQ(texts.PR2, "  249\r\n  62\r\n");
+  EXPECT_EQ(pwmMatchTexts(matches, false).calcFreq, " 1000.0 Hz\r\n 992.063 Hz\r\n");
+}
+
+TEST(PwmSearch, TestsThePeriodRegisterBeforeItIsRounded) {
+  // At 4 MHz with prescaler 1 the register value is 1 MHz / F - 1.
+  struct Case {
+    double F;
+    std::optional<double> PR2;
+    bool aboveRange;
+  };
+  for (const Case& c :
+       {Case{1e6 / 256.2, {}, false}, Case{1e6 / 255.6, 255, false}, Case{1e6 / 24, 23, false},
+        Case{1e6, 0, true}, Case{1e6 / 0.9, {}, true}, Case{1e6 / 3.5, 2, true}}) {
+    const PwmMatches matches = PwmSearch(4e6, c.F);
+    const auto& match = matches.bySlot[0];
+    EXPECT_EQ(match ? std::optional(match->PR2) : std::nullopt, c.PR2) << c.F;
+    EXPECT_EQ(matches.aboveRange, c.aboveRange) << c.F;
+  }
+}
+
+TEST(PwmSearch, MatchesNothingOutsideTheNumbers) {
+  const double infinite = INFINITY;
+  for (const double Fosc : {0.0, -4e6, infinite, 4e6})
+    for (const double F : {0.0, infinite, 1e-320, 1.0})
+      EXPECT_EQ(PwmSearch(Fosc, F).MatchCount, 0) << Fosc << ' ' << F;
+}
+
+TEST(PwmResolution, FollowsItsTable) {
+  struct Case {
+    double M;
+    int bits;
+  };
+  for (const Case& c : {Case{1024, 10}, Case{513, 10}, Case{512, 9}, Case{257, 9}, Case{256, 8},
+                        Case{128, 8},   Case{65, 8},   Case{64, 7},  Case{33, 7},  Case{32, 6},
+                        Case{17, 6},    Case{16, 5},   Case{9, 5},   Case{8, 4},   Case{5, 4},
+                        Case{4, 3},     Case{3, 3},    Case{2, 2},   Case{1, 1},   Case{0, 1}})
+    EXPECT_EQ(PwmResolution(c.M), c.bits) << c.M;
+}
+
+TEST(PwmDuty, FillsItsColumns) {
+  struct Case {
+    double D;
+    const char* dutyRegister;
+    const char* calcDuty;
+  };
+  const PwmMatches matches = PwmSearch(4e6, 1000);
+  for (const Case& c : {Case{50, "500\r\n126\r\n", "50.0 %\r\n50.0 %\r\n"},
+                        Case{100, "1000\r\n250\r\n", "100.0 %\r\n99.21 %\r\n"},
+                        Case{0, "0\r\n0\r\n", ".0 %\r\n.0 %\r\n"},
+                        Case{1e13, "1000\r\n250\r\n", "100.0 %\r\n99.21 %\r\n"}}) {
+    const auto texts = pwmDutyTexts(matches, c.D, 4e6);
+    ASSERT_TRUE(texts);
+    EXPECT_EQ(texts->dutyRegister, c.dutyRegister);
+    EXPECT_EQ(texts->calcDuty, c.calcDuty);
+  }
+  EXPECT_FALSE(pwmDutyTexts(matches, 50, 0));
+  EXPECT_EQ(pwmDutyTexts(matches, 0, INFINITY)->dutyRegister, "\r\n\r\n");
+}
+
+TEST(PwmDuty, ShowsLargeRegistersInThousands) {
+  PwmMatches matches;
+  for (std::size_t i = 0; i < 2; ++i)
+    matches.bySlot[i] = PwmMatch{.FreqKHz = 1, .MaxDutyVal = i == 0 ? 1999. : 2500.};
+  EXPECT_EQ(pwmDutyTexts(matches, 100, 4e6)->dutyRegister, "1999\r\n2.5\r\n");
+}
+
+// Any oscillator, and frequencies on both sides of what it reaches. The period in oscillator
+// clocks is computed here in one step and in more digits, so only values within a hair of a bound
+// are left undecided.
+TEST(PwmSearch, FindsExactlyThePrescalersThatFit) {
+  std::mt19937_64 random(1);
+  std::uniform_real_distribution<double> oscillator(std::log(0.03e6), std::log(64e6));
+  std::uniform_real_distribution<double> clocks(std::log(2), std::log(32768));
+  std::uniform_real_distribution<double> percent(0, 110);
+  int found = 0;
+  for (int n = 0; n < 100000; ++n) {
+    const double Fosc = std::exp(oscillator(random));
+    const double F = Fosc / std::exp(clocks(random));
+    const double D = percent(random);
+    const PwmMatches matches = PwmSearch(Fosc, F);
+    int count = 0;
+    for (std::size_t i = 0; i < pwmPrescalers.size(); ++i) {
+      const auto& match = matches.bySlot[i];
+      const long double P = pwmPrescalers[i];
+      const long double exact = static_cast<long double>(Fosc) / F / 4 / P - 1;
+      const bool near = std::fabs(exact) < 1e-9L || std::fabs(exact - 255) < 1e-9L;
+      ASSERT_TRUE(near || match.has_value() == (exact > 0 && exact < 255)) << Fosc << ' ' << F;
+      if (!match) continue;
+      ++count;
+      ASSERT_EQ(match->Prescaler, pwmPrescalers[i]);
+      ASSERT_TRUE(match->PR2 >= 0 && match->PR2 <= 255 && match->PR2 == std::floor(match->PR2));
+      ASSERT_LE(std::fabs(match->PR2 - exact), 0.5L + 1e-9L);
+      const long double kHz = Fosc / (4 * P * (match->PR2 + 1)) / 1000;
+      ASSERT_NEAR(match->FreqKHz, static_cast<double>(kHz), 1e-12 * match->FreqKHz);
+      ASSERT_LE(std::fabs(match->MaxDutyVal - 4 * (exact + 1)), 0.5L + 1e-9L);
+      const PwmDutyValue duty = PwmDuty(*match, D, Fosc);
+      ASSERT_TRUE(duty.Register >= 0 && duty.Register <= match->MaxDutyVal) << D;
+      const long double period = 4 * (match->PR2 + 1);
+      ASSERT_LE(std::fabs(duty.Register - std::fmin(D / 100 * period, match->MaxDutyVal)),
+                0.5L + 1e-9L);
+      ASSERT_NEAR(duty.Duty, static_cast<double>(duty.Register / period * 100), 1e-9);
+    }
+    ASSERT_EQ(matches.MatchCount, count);
+    found += count;
+  }
+  EXPECT_GT(found, 100000);
+}
+
+}  // namespace
+}  // namespace tarnwick::calc
