@@ -144,6 +144,8 @@ TEST(BaudRows, TreatWhatIsNotFiniteAsAFault) {
   EXPECT_TRUE(usartRows(20, tiny)[0]);
   EXPECT_TRUE(eusartRows(20, tiny));
 
+  EXPECT_FALSE(usartRows(-20, 1e-302)[0]);  // an error that has no percentage
+
   const UsartRows oneRow = usartRows(20, huge / 32);  // the goal times 64 overflows, times 16 not
   EXPECT_FALSE(oneRow[0]);
   EXPECT_TRUE(oneRow[1]);
