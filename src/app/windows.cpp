@@ -2,7 +2,10 @@
 
 #include "app/fAbout.h"
 #include "app/fMain.h"
+#include "forms/fEUSART.h"
+#include "forms/fSerinSerout2.h"
 #include "forms/fTimer.h"
+#include "forms/fUSART.h"
 
 namespace tarnwick::app {
 
@@ -10,6 +13,9 @@ void addWindows(WindowSet& windows, GenVar& genVar) {
   windows.add("fMain", [&] { return new fMain(windows, genVar); });
   windows.add("fAbout", [] { return new fAbout; });
   windows.add("fTimer", [&] { return new forms::fTimer(genVar.oscillator); });
+  windows.add("fUSART", [&] { return new forms::fUSART(genVar.oscillator); });
+  windows.add("fEUSART", [&] { return new forms::fEUSART(genVar.oscillator); });
+  windows.add("fSerinSerout2", [] { return new forms::fSerinSerout2; });
 }
 
 }  // namespace tarnwick::app

@@ -70,6 +70,12 @@ void ResultField::blendIntoWindow() {
   setPalette(own);
 }
 
+void alignInTable(ResultField& field, std::string_view widest) {
+  field.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  field.setAlignment(Qt::AlignRight);
+  fitWidth(field, widest);
+}
+
 ResultColumn::ResultColumn(QWidget* parent, std::string_view name, std::string_view widest,
                            int lines)
     : QPlainTextEdit(parent) {

@@ -20,7 +20,9 @@ TEST_P(RandomEvents, LeaveNoWindowBroken) {
   user.act(GetParam().events);
 }
 
-INSTANTIATE_TEST_SUITE_P(EachWindow, RandomEvents, testing::Values(Trial{"cTimer", 10'000}),
+INSTANTIATE_TEST_SUITE_P(EachWindow, RandomEvents,
+                         testing::Values(Trial{"cTimer", 10'000}, Trial{"cUSART", 10'000},
+                                         Trial{"cEUSART", 10'000}, Trial{"cSerinSerout2", 10'000}),
                          [](const auto& trial) { return trial.param.launcherButton; });
 
 }  // namespace
