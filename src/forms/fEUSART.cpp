@@ -3,6 +3,8 @@
 #include "ui/desktop.h"
 #include "ui/layout.h"
 
+#include <QHBoxLayout>
+
 #include <cstddef>
 #include <limits>
 
@@ -31,55 +33,52 @@ void fEUSART::layOut() {
   const RateTable table =
       rateTable(this, "fResults", "Results BRG16=0", false, {"tSPBRG0", "tCalcBaud0", "tERR0"},
                 {"tSPBRG1", "tCalcBaud1", "tERR1"});
+  auto* fBestMatch = matchGroup(table.group, "fBestMatch", "Best match",
+                                {{&best_.err, "trERR", "Error % :"},
+                                 {&best_.calcBaud, "trCalcBaud", "Calc baud :"},
+                                 {&best_.spbrg, "trSPBRG", "SPBRG :"},
+                                 {&trSPBRGH, "trSPBRGH", "BRGH :"}});
+  table.grid->addWidget(fBestMatch, 3, 0, 1, -1);
+  ui::packTopLeft(table.grid);
+
   const RateTable table16 = rateTable(this, "fResults16", "Results BRG16=1", true,
                                       {"tSPBRG16_0", "tCalcBaud16_0", "tERR16_0"},
                                       {"tSPBRG16_1", "tCalcBaud16_1", "tERR16_1"});
+  auto* fBestMatch16 = matchGroup(table16.group, "fBestMatch16", "Best match",
+                                  {{&best16_.err, "trERR16", "Error % :"},
+                                   {&best16_.calcBaud, "trCalcBaud16", "Calc baud :"},
+                                   {&best16_.spbrg, "trSPBRG16(0)", "SPBRG :"},
+                                   {&best16_.spbrgh, "trSPBRG16(1)", "SPBRGH :"},
+                                   {&trSPBRGH16, "trSPBRGH16", "BRGH :"}});
+  table16.grid->addWidget(fBestMatch16, 3, 0, 1, -1);
+  ui::packTopLeft(table16.grid);
+
   rows_ = {table.brgh0, table.brgh1, table16.brgh0, table16.brgh1};
 
-  auto* fBestMatch = ui::group(table.group, "fBestMatch", "Best match");
-  auto* match = ui::grid(fBestMatch);
-  best_.err = matchField(match, "trERR", "Error % :");
-  best_.calcBaud = matchField(match, "trCalcBaud", "Calc baud :");
-  best_.spbrg = matchField(match, "trSPBRG", "SPBRG :");
-  trSPBRGH = matchField(match, "trSPBRGH", "BRGH :");
-
-  auto* fBestMatch16 = ui::group(table16.group, "fBestMatch16", "Best match");
-  auto* match16 = ui::grid(fBestMatch16);
-  best16_.err = matchField(match16, "trERR16", "Error % :");
-  best16_.calcBaud = matchField(match16, "trCalcBaud16", "Calc baud :");
-  best16_.spbrg = matchField(match16, "trSPBRG16(0)", "SPBRG :");
-  best16_.spbrgh = matchField(match16, "trSPBRG16(1)", "SPBRGH :");
-  trSPBRGH16 = matchField(match16, "trSPBRGH16", "BRGH :");
-
-  table.grid->addWidget(fBestMatch, 3, 0, 1, -1, Qt::AlignTop);
-  table16.grid->addWidget(fBestMatch16, 3, 0, 1, -1, Qt::AlignTop);
-
-  auto* fFinal = ui::group(this, "fFinal", "Final best match");
-  layOutFinalMatch(fFinal);
+  auto* fFinal = matchGroup(this, "fFinal", "Final best match",
+                            {{&tfERR, "tfERR", "Error % :"},
+                             {&tfCalcBaud, "tfCalcBaud", "Calc baud :"},
+                             {&tfSPBRG, "tfSPBRG", "SPBRG :"},
+                             {&TSPBRGH, "TSPBRGH", "SPBRGH :"},
+                             {&tfBRGH, "tfBRGH", "BRGH :"},
+                             {&tfBRG16, "tfBRG16", "BRG16 :"}});
   cCopyRegister = ui::button(this, "cCopyRegister", "Copy register settings to clipboard");
   CopyClip = ui::button(this, "CopyClip", "Copy PBP DEFINEs to clipboard");
 
-  auto* window = ui::grid(this);
-  window->addWidget(inputs_.oscGroup, 0, 0);
-  window->addWidget(inputs_.rate.baudGroup, 0, 1);
-  window->addWidget(inputs_.rate.commonGroup, 0, 2);
-  window->addWidget(fLocation, 0, 3);
-  window->addWidget(table.group, 1, 0, 1, 2);
-  window->addWidget(table16.group, 1, 2, 1, 2);
-  window->addWidget(fFinal, 2, 0, 2, 2);
-  window->addWidget(cCopyRegister, 2, 2, 1, 2);
-  window->addWidget(CopyClip, 3, 2, 1, 2);
-  ui::fixToContent(this);
-}
+  auto* inputs = new QHBoxLayout;
+  for (QGroupBox* group :
+       {inputs_.oscGroup, inputs_.rate.baudGroup, inputs_.rate.commonGroup, fLocation})
+    inputs->addWidget(group);
 
-void fEUSART::layOutFinalMatch(QGroupBox* fFinal) {
-  auto* match = ui::grid(fFinal);
-  tfERR = matchField(match, "tfERR", "Error % :");
-  tfCalcBaud = matchField(match, "tfCalcBaud", "Calc baud :");
-  tfSPBRG = matchField(match, "tfSPBRG", "SPBRG :");
-  TSPBRGH = matchField(match, "TSPBRGH", "SPBRGH :");
-  tfBRGH = matchField(match, "tfBRGH", "BRGH :");
-  tfBRG16 = matchField(match, "tfBRG16", "BRG16 :");
+  auto* window = ui::grid(this);
+  window->addLayout(inputs, 0, 0, 1, 2);
+  window->addWidget(table.group, 1, 0);
+  window->addWidget(table16.group, 1, 1);
+  window->addWidget(fFinal, 2, 0, 3, 1);
+  window->addWidget(cCopyRegister, 2, 1);
+  window->addWidget(CopyClip, 3, 1);
+  window->setRowStretch(4, 1);
+  ui::fixToContent(this);
 }
 
 void fEUSART::connectEvents() {

@@ -22,7 +22,6 @@ public:
 
 private:
   void layOut();
-  void layOutFinalMatch(QGroupBox* fFinal);
   void connectEvents();
   void Form_Load();
   void CalcEUSART();

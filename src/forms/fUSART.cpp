@@ -19,13 +19,13 @@ void fUSART::layOut() {
   row0_ = table.brgh0;
   row1_ = table.brgh1;
 
-  auto* fBestMatch = ui::group(this, "fBestMatch", "Best match");
-  auto* match = ui::grid(fBestMatch);
-  best_.err = matchField(match, "trERR", "Error % :");
-  best_.calcBaud = matchField(match, "trCalcBaud", "Calc Baud :");
-  best_.spbrg = matchField(match, "trSPBRG", "SPBRG :");
-  trSPBRGH = matchField(match, "trSPBRGH", "BRGH :");
+  ui::packTopLeft(table.grid);
 
+  auto* fBestMatch = matchGroup(this, "fBestMatch", "Best match",
+                                {{&best_.err, "trERR", "Error % :"},
+                                 {&best_.calcBaud, "trCalcBaud", "Calc Baud :"},
+                                 {&best_.spbrg, "trSPBRG", "SPBRG :"},
+                                 {&trSPBRGH, "trSPBRGH", "BRGH :"}});
   cCopyRegister = ui::button(this, "cCopyRegister", "Copy register settings to clipboard");
   CopyClip = ui::button(this, "CopyClip", "Copy PBP DEFINEs to clipboard");
 
@@ -34,9 +34,10 @@ void fUSART::layOut() {
   window->addWidget(inputs_.rate.baudGroup, 0, 1);
   window->addWidget(inputs_.rate.commonGroup, 0, 2);
   window->addWidget(table.group, 1, 0, 1, 3);
-  window->addWidget(fBestMatch, 2, 0, 2, 2);
+  window->addWidget(fBestMatch, 2, 0, 3, 2);
   window->addWidget(cCopyRegister, 2, 2);
   window->addWidget(CopyClip, 3, 2);
+  window->setRowStretch(4, 1);
   ui::fixToContent(this);
 }
 

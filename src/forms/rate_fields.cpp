@@ -10,7 +10,6 @@ namespace {
 constexpr std::string_view widestSpbrg = "00000";
 constexpr std::string_view widestBaud = "0000.000 K";
 constexpr std::string_view widestError = "00000000000000.0%";  // 1E-7 Bd at 64 MHz
-constexpr std::string_view widestMatch = "00000000.000 K";
 
 std::string rateText(double baud, bool kBaud) {
   return kBaud ? common::numberText(baud / 1000) + " K" : common::numberText(baud);
@@ -26,7 +25,7 @@ public:
 
   ui::ResultField* add(std::string_view name, std::string_view column, std::string_view widest) {
     auto* field = new ui::ResultField(table_.group, name, widest);
-    ui::alignInTable(*field, widest);
+    ui::alignInColumn(*field, widest);
     ui::nameAfter(field, std::string(caption_) + ", " + std::string(column));
     table_.grid->addWidget(field, row_, ++column_);
     if (row_ == 1) addHeading(column);
@@ -86,10 +85,17 @@ RateTable rateTable(QWidget* parent, std::string_view name, std::string_view cap
   return table;
 }
 
-ui::ResultField* matchField(QGridLayout* grid, std::string_view name, std::string_view label) {
-  auto* field = new ui::ResultField(grid->parentWidget(), name, widestMatch);
-  ui::labelledRow(grid, "l" + std::string(name), label, field);
-  return field;
+QGroupBox* matchGroup(QWidget* parent, std::string_view name, std::string_view caption,
+                      std::initializer_list<MatchField> fields) {
+  auto* group = ui::group(parent, name, caption);
+  auto* grid = ui::grid(group);
+  for (const MatchField& match : fields) {
+    *match.field = new ui::ResultField(group, match.name, widestError);
+    ui::alignInColumn(**match.field, widestError);
+    ui::labelledRow(grid, "l" + std::string(match.name), match.label, *match.field);
+  }
+  ui::packTopLeft(grid);
+  return group;
 }
 
 }  // namespace tarnwick::forms

@@ -4,6 +4,7 @@
 #include "ui/layout.h"
 #include "ui/widgets.h"
 
+#include <initializer_list>
 #include <optional>
 #include <string_view>
 
@@ -28,7 +29,7 @@ struct RateNames {
   std::string_view err;
 };
 
-// A table with a row of fields for each BRGH.
+// A table with a row of fields for each BRGH; its grid has room for more below.
 struct RateTable {
   QGroupBox* group;
   QGridLayout* grid;
@@ -39,8 +40,16 @@ struct RateTable {
 [[nodiscard]] RateTable rateTable(QWidget* parent, std::string_view name, std::string_view caption,
                                   bool bytePairs, const RateNames& brgh0, const RateNames& brgh1);
 
-// Makes the labelled field of a best match, below the grid's rows so far.
-[[nodiscard]] ui::ResultField* matchField(QGridLayout* grid, std::string_view name,
-                                          std::string_view label);
+// A field of a best match, its design name and its label.
+struct MatchField {
+  ui::ResultField** field;
+  std::string_view name;
+  std::string_view label;
+};
+
+// Makes the fields of a best match in a group of their own.
+[[nodiscard]] QGroupBox* matchGroup(QWidget* parent, std::string_view name,
+                                    std::string_view caption,
+                                    std::initializer_list<MatchField> fields);
 
 }  // namespace tarnwick::forms

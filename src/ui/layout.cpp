@@ -36,6 +36,11 @@ void labelledRow(QGridLayout* grid, std::string_view labelName, std::string_view
   grid->addWidget(field, row, 1);
 }
 
+void packTopLeft(QGridLayout* grid) {
+  grid->setRowStretch(grid->rowCount(), 1);
+  grid->setColumnStretch(grid->columnCount(), 1);
+}
+
 void fixToContent(QWidget* window) {
   window->layout()->setSizeConstraint(QLayout::SetFixedSize);
 }

@@ -20,6 +20,10 @@ void row(QWidget* parent, std::initializer_list<QWidget*> controls);
 void labelledRow(QGridLayout* grid, std::string_view labelName, std::string_view labelText,
                  QWidget* field);
 
+// Keeps the grid's cells at the size of their content, together at its top left; called once all
+// of them are there.
+void packTopLeft(QGridLayout* grid);
+
 // Keeps a window at the size of its content.
 void fixToContent(QWidget* window);
 

@@ -70,10 +70,11 @@ void ResultField::blendIntoWindow() {
   setPalette(own);
 }
 
-void alignInTable(ResultField& field, std::string_view widest) {
+void alignInColumn(ResultField& field, std::string_view widest) {
   field.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
   field.setAlignment(Qt::AlignRight);
   fitWidth(field, widest);
+  field.setFixedWidth(field.minimumWidth());
 }
 
 ResultColumn::ResultColumn(QWidget* parent, std::string_view name, std::string_view widest,
