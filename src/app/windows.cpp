@@ -7,6 +7,10 @@
 #include "forms/fPWM.h"
 #include "forms/fTimer.h"
 #include "forms/fTimerHelper.h"
+#include "forms/fEUSART.h"
+#include "forms/fSerinSerout2.h"
+#include "forms/fTimer.h"
+#include "forms/fUSART.h"
 
 namespace tarnwick::app {
 
@@ -18,6 +22,9 @@ void addWindows(WindowSet& windows, GenVar& genVar) {
   windows.add("fPWM", [&] { return new forms::fPWM(genVar.oscillator); });
   windows.add("fTimer", [&] { return new forms::fTimer(genVar.oscillator); });
   windows.add("fTimerHelper", [&] { return new forms::fTimerHelper(genVar.oscillator); });
+  windows.add("fUSART", [&] { return new forms::fUSART(genVar.oscillator); });
+  windows.add("fEUSART", [&] { return new forms::fEUSART(genVar.oscillator); });
+  windows.add("fSerinSerout2", [] { return new forms::fSerinSerout2; });
 }
 
 }  // namespace tarnwick::app

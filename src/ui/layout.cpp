@@ -48,6 +48,11 @@ ResultColumn* headedColumn(QGridLayout* grid, std::string_view name, std::string
   return column;
 }
 
+void packTopLeft(QGridLayout* grid) {
+  grid->setRowStretch(grid->rowCount(), 1);
+  grid->setColumnStretch(grid->columnCount(), 1);
+}
+
 void fixToContent(QWidget* window) {
   window->layout()->setSizeConstraint(QLayout::SetFixedSize);
 }

@@ -25,6 +25,10 @@ void labelledRow(QGridLayout* grid, std::string_view labelName, std::string_view
 ResultColumn* headedColumn(QGridLayout* grid, std::string_view name, std::string_view heading,
                            std::string_view widest, int lines);
 
+// Keeps the grid's cells at the size of their content, together at its top left; called once all
+// of them are there.
+void packTopLeft(QGridLayout* grid);
+
 // Keeps a window at the size of its content.
 void fixToContent(QWidget* window);
 

@@ -70,6 +70,13 @@ void ResultField::blendIntoWindow() {
   setPalette(own);
 }
 
+void alignInColumn(ResultField& field, std::string_view widest) {
+  field.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  field.setAlignment(Qt::AlignRight);
+  fitWidth(field, widest);
+  field.setFixedWidth(field.minimumWidth());
+}
+
 ResultColumn::ResultColumn(QWidget* parent, std::string_view name, std::string_view widest,
                            int lines)
     : QPlainTextEdit(parent) {

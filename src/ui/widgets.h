@@ -47,6 +47,10 @@ private:
   void blendIntoWindow();
 };
 
+// Makes a result field one of a column: fixed-pitch, right-aligned and as wide as `widest`, so that
+// the digits of the fields above each other stand in line.
+void alignInColumn(ResultField& field, std::string_view widest);
+
 // A read-only column of lines. Its text as the program sees it ends each line with CR LF and is
 // kept as it was set; what is shown has one line for each of them.
 class ResultColumn : public QPlainTextEdit {

@@ -1,0 +1,51 @@
+#include "forms/baud_inputs.h"
+
+#include "ui/layout.h"
+
+#include <array>
+#include <utility>
+
+namespace tarnwick::forms {
+namespace {
+
+constexpr std::array<std::string_view, 10> commonBauds{"300",  "600",   "1200",  "2400",  "4800",
+                                                       "9600", "19200", "38400", "57600", "115200"};
+constexpr int defaultBaud = 5;
+
+}  // namespace
+
+BaudInputs::BaudInputs(ui::Window* window, std::string_view fieldName,
+                       const ui::EntryFieldTraits& traits, std::function<void()> recalculate)
+    : recalculate_(std::move(recalculate)) {
+  baudGroup = ui::group(window, "fBaudrate", "Baudrate");
+  field = new ui::EntryField(baudGroup, fieldName, traits);
+  ui::nameAfter(field, "Baudrate");
+  cKBaud = ui::checkBox(baudGroup, "cKBaud", "KBaud");
+  ui::row(baudGroup, {field, cKBaud});
+
+  commonGroup = ui::group(window, "fCommonBaudrate", "Common baudrate");
+  BaudDropList = new ui::SelectionList(commonGroup, "BaudDropList", commonBauds);
+  ui::nameAfter(BaudDropList, "Common baudrate");
+  ui::row(commonGroup, {BaudDropList});
+
+  QObject::connect(BaudDropList, &ui::SelectionList::chosen, window,
+                   [this] { BaudDropList_Click(); });
+  QObject::connect(cKBaud, &QCheckBox::toggled, window, [this] { recalculate_(); });
+}
+
+double BaudInputs::baud() const {
+  const double typed = field->number();
+  return cKBaud->isChecked() ? typed * 1000 : typed;
+}
+
+void BaudInputs::chooseDefault() {
+  BaudDropList->choose(defaultBaud);
+}
+
+void BaudInputs::BaudDropList_Click() {
+  field->setContents(BaudDropList->contents());
+  cKBaud->setChecked(false);
+  recalculate_();
+}
+
+}  // namespace tarnwick::forms

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "ui/entry_field.h"
+#include "ui/widgets.h"
+
+#include <functional>
+#include <string_view>
+
+namespace tarnwick::forms {
+
+// The wanted baud rate as the windows of the serial calculators ask for it: a field, its unit, and
+// a list of common rates that fills the field. Choosing a rate takes it as Bd; both a choice and a
+// change of the unit recalculate. Validating the field is the window's own.
+class BaudInputs {
+public:
+  BaudInputs(ui::Window* window, std::string_view fieldName, const ui::EntryFieldTraits& traits,
+             std::function<void()> recalculate);
+  BaudInputs(const BaudInputs&) = delete;
+  BaudInputs& operator=(const BaudInputs&) = delete;
+
+  // The wanted rate in Bd.
+  [[nodiscard]] double baud() const;
+  // Chooses 9600 Bd from the list.
+  void chooseDefault();
+
+  QGroupBox* baudGroup;
+  ui::EntryField* field;
+  QCheckBox* cKBaud;
+  QGroupBox* commonGroup;
+  ui::SelectionList* BaudDropList;
+
+private:
+  void BaudDropList_Click();
+
+  std::function<void()> recalculate_;
+};
+
+}  // namespace tarnwick::forms

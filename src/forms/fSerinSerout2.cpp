@@ -1,0 +1,141 @@
+#include "forms/fSerinSerout2.h"
+
+#include "calc/ser2_mode.h"
+#include "common/number_text.h"
+#include "ui/desktop.h"
+#include "ui/layout.h"
+
+#include <algorithm>
+
+namespace tarnwick::forms {
+namespace {
+
+constexpr int driven = 1;  // oOutput
+constexpr int open = 2;
+constexpr int trueLevels = 1;  // oConversion
+constexpr int inverted = 2;
+constexpr int odd = 0;  // oParity
+constexpr int none = 1;
+constexpr int even = 2;
+
+// Horizontal places, in pixels from the left edge of the window.
+constexpr int twipsPerPixel = 15;
+constexpr int groupsLeft = 120 / twipsPerPixel;
+struct ModePlace {
+  int label;
+  int field;
+};
+constexpr ModePlace alone{1680 / twipsPerPixel, 2400 / twipsPerPixel};
+constexpr ModePlace besideButton{480 / twipsPerPixel, 1200 / twipsPerPixel};
+
+}  // namespace
+
+fSerinSerout2::fSerinSerout2()
+    : Window("fSerinSerout2", "Serin2, Serout2 Calc"),
+      inputs_(this, "tBaud",
+              {.keys = common::decimalKey,
+               .pointTyped = &BaudPointTyped,
+               .clearsPointOnEntering = true,
+               .validatesOnFocusLost = true},
+              [this] { CalcMode(); }),
+      tBaud(inputs_.field) {
+  layOut();
+  connectEvents();
+  Form_Load();
+}
+
+void fSerinSerout2::layOut() {
+  auto* fOutput = ui::group(this, "fOutput", "Output");
+  oOutput = new ui::OptionGroup(fOutput, "oOutput", {{driven, "Driven"}, {open, "Open"}});
+  ui::row(fOutput, {oOutput->button(driven), oOutput->button(open)});
+
+  auto* fConversion = ui::group(this, "fConversion", "Conversion");
+  oConversion = new ui::OptionGroup(fConversion, "oConversion",
+                                    {{trueLevels, "True"}, {inverted, "Inverted"}});
+  ui::row(fConversion, {oConversion->button(trueLevels), oConversion->button(inverted)});
+
+  auto* fParity = ui::group(this, "fParity", "Parity");
+  oParity = new ui::OptionGroup(fParity, "oParity", {{none, "None"}, {even, "Even"}, {odd, "Odd"}});
+  ui::row(fParity, {oParity->button(none), oParity->button(even), oParity->button(odd)});
+
+  layOutResults();
+
+  auto* window = ui::grid(this);
+  QMargins margins = window->contentsMargins();
+  margins.setLeft(groupsLeft);
+  window->setContentsMargins(margins);
+  window->addWidget(inputs_.baudGroup, 0, 0, 1, 2);
+  window->addWidget(inputs_.commonGroup, 0, 2);
+  window->addWidget(fOutput, 1, 0);
+  window->addWidget(fConversion, 1, 1);
+  window->addWidget(fParity, 1, 2);
+  window->addWidget(fResults, 2, 0, 1, 3);
+  ui::fixToContent(this);
+}
+
+// The results stand at fixed places: label and field move aside when the button appears.
+void fSerinSerout2::layOutResults() {
+  fResults = ui::group(this, "fResults", "Results");
+  tLabel = ui::label(fResults, "tLabel", "Mode :");
+  tMode = new ui::ResultField(fResults, "tMode", "000000");
+  tLabel->setBuddy(tMode);
+  ui::nameAfter(tMode, "Mode");
+  cCopyClip = ui::button(fResults, "cCopyClip", "Copy the additional PBP DEFINE to clipboard");
+
+  constexpr int gap = 8;
+  const int top = fResults->contentsMargins().top() + gap;
+  const int height = std::max(tMode->sizeHint().height(), cCopyClip->sizeHint().height());
+  const int buttonLeft = besideButton.field - groupsLeft + tMode->minimumWidth() + gap;
+  tLabel->setGeometry(0, top, alone.field - alone.label, height);
+  tMode->setGeometry(0, top, tMode->minimumWidth(), height);
+  cCopyClip->setGeometry(buttonLeft, top, cCopyClip->sizeHint().width(), height);
+  fResults->setMinimumSize(cCopyClip->geometry().right() + gap, top + height + gap);
+}
+
+void fSerinSerout2::connectEvents() {
+  connect(tBaud, &ui::EntryField::validate, this, &fSerinSerout2::tBaud_Validate);
+  connect(tBaud, &ui::EntryField::entered, this, [this] { inputs_.cKBaud->setFocus(); });
+  for (ui::OptionGroup* options : {oOutput, oConversion, oParity})
+    connect(options, &ui::OptionGroup::chosen, this, &fSerinSerout2::CalcMode);
+  connect(cCopyClip, &QPushButton::clicked, this, &fSerinSerout2::cCopyClip_Click);
+}
+
+void fSerinSerout2::Form_Load() {
+  oOutput->select(driven);
+  oConversion->select(trueLevels);
+  oParity->select(none);
+  showOddParity(false);
+  inputs_.chooseDefault();
+  CalcMode();
+}
+
+void fSerinSerout2::CalcMode() {
+  const auto mode =
+      calc::Ser2Mode(inputs_.baud(), {.open = oOutput->selected() != driven,
+                                      .inverted = oConversion->selected() != trueLevels,
+                                      .parity = oParity->selected() != none});
+  if (!mode) {
+    tMode->setContents("");
+    return;
+  }
+  showOddParity(oParity->selected() == odd);
+  tMode->setContents(common::numberText(*mode));
+}
+
+void fSerinSerout2::showOddParity(bool isOdd) {
+  const ModePlace place = isOdd ? besideButton : alone;
+  tLabel->move(place.label - groupsLeft, tLabel->y());
+  tMode->move(place.field - groupsLeft, tMode->y());
+  cCopyClip->setVisible(isOdd);
+}
+
+void fSerinSerout2::tBaud_Validate() {
+  if (tBaud->contents().empty() || tBaud->number() == 0) tBaud->setContents("9600");
+  CalcMode();
+}
+
+void fSerinSerout2::cCopyClip_Click() {
+  ui::copyToClipboard(calc::oddParityDefine);
+}
+
+}  // namespace tarnwick::forms

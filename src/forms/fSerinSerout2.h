@@ -1,0 +1,37 @@
+#pragma once
+
+#include "forms/baud_inputs.h"
+#include "ui/window.h"
+
+namespace tarnwick::forms {
+
+// SERIN2/SEROUT2 calculator: the mode number of the software serial commands.
+class fSerinSerout2 : public ui::Window {
+public:
+  fSerinSerout2();
+
+private:
+  void layOut();
+  void layOutResults();
+  void connectEvents();
+  void Form_Load();
+  void CalcMode();
+  void showOddParity(bool odd);
+
+  void tBaud_Validate();
+  void cCopyClip_Click();
+
+  BaudInputs inputs_;
+  ui::EntryField* tBaud;
+  ui::OptionGroup* oOutput;
+  ui::OptionGroup* oConversion;
+  ui::OptionGroup* oParity;
+  QGroupBox* fResults;
+  QLabel* tLabel;
+  ui::ResultField* tMode;
+  QPushButton* cCopyClip;
+
+  bool BaudPointTyped = false;
+};
+
+}  // namespace tarnwick::forms

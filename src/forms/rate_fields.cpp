@@ -1,0 +1,101 @@
+#include "forms/rate_fields.h"
+
+#include "common/number_text.h"
+
+#include <string>
+
+namespace tarnwick::forms {
+namespace {
+
+constexpr std::string_view widestSpbrg = "00000";
+constexpr std::string_view widestBaud = "0000.000 K";
+constexpr std::string_view widestError = "00000000000000.0%";  // 1E-7 Bd at 64 MHz
+
+std::string rateText(double baud, bool kBaud) {
+  return kBaud ? common::numberText(baud / 1000) + " K" : common::numberText(baud);
+}
+
+// Adds fields and captions to a table column by column.
+class RowBuilder {
+public:
+  RowBuilder(const RateTable& table, int row, std::string_view caption)
+      : table_(table), row_(row), caption_(caption) {
+    table_.grid->addWidget(ui::label(table_.group, "l" + std::string(caption), caption), row_, 0);
+  }
+
+  ui::ResultField* add(std::string_view name, std::string_view column, std::string_view widest) {
+    auto* field = new ui::ResultField(table_.group, name, widest);
+    ui::alignInColumn(*field, widest);
+    ui::nameAfter(field, std::string(caption_) + ", " + std::string(column));
+    table_.grid->addWidget(field, row_, ++column_);
+    if (row_ == 1) addHeading(column);
+    return field;
+  }
+
+private:
+  void addHeading(std::string_view column) {
+    auto* heading = ui::label(table_.group, "l" + std::string(column), column);
+    table_.grid->addWidget(heading, 0, column_, Qt::AlignHCenter);
+  }
+
+  const RateTable& table_;
+  int row_;
+  std::string_view caption_;
+  int column_ = 0;
+};
+
+RateFields addRow(const RateTable& table, int row, std::string_view caption, bool bytePair,
+                  const RateNames& names) {
+  RowBuilder builder(table, row, caption);
+  RateFields fields;
+  if (bytePair) fields.spbrgh = builder.add(ui::indexed(names.spbrg, 1), "SPBRGH", widestSpbrg);
+  fields.spbrg = builder.add(bytePair ? ui::indexed(names.spbrg, 0) : std::string(names.spbrg),
+                             "SPBRG", widestSpbrg);
+  fields.calcBaud = builder.add(names.calcBaud, "Calc baud", widestBaud);
+  fields.err = builder.add(names.err, "Error %", widestError);
+  return fields;
+}
+
+}  // namespace
+
+void RateFields::show(const std::optional<calc::BaudRow>& row, bool kBaud) const {
+  if (!row) {
+    for (ui::ResultField* field : {spbrgh, spbrg, calcBaud, err})
+      if (field != nullptr) field->setContents("");
+    return;
+  }
+  if (spbrgh == nullptr) {
+    spbrg->setContents(common::numberText(row->Spbrg));
+  } else {
+    const calc::SpbrgBytes bytes = calc::spbrgBytes(row->Spbrg);
+    spbrg->setContents(common::wholeText(bytes.low));
+    spbrgh->setContents(common::wholeText(bytes.high));
+  }
+  calcBaud->setContents(rateText(row->Calc, kBaud));
+  err->setContents(common::format(row->Err, "0.0#%"));
+}
+
+RateTable rateTable(QWidget* parent, std::string_view name, std::string_view caption,
+                    bool bytePairs, const RateNames& brgh0, const RateNames& brgh1) {
+  RateTable table{};
+  table.group = ui::group(parent, name, caption);
+  table.grid = ui::grid(table.group);
+  table.brgh0 = addRow(table, 1, "BRGH = 0", bytePairs, brgh0);
+  table.brgh1 = addRow(table, 2, "BRGH = 1", bytePairs, brgh1);
+  return table;
+}
+
+QGroupBox* matchGroup(QWidget* parent, std::string_view name, std::string_view caption,
+                      std::initializer_list<MatchField> fields) {
+  auto* group = ui::group(parent, name, caption);
+  auto* grid = ui::grid(group);
+  for (const MatchField& match : fields) {
+    *match.field = new ui::ResultField(group, match.name, widestError);
+    ui::alignInColumn(**match.field, widestError);
+    ui::labelledRow(grid, "l" + std::string(match.name), match.label, *match.field);
+  }
+  ui::packTopLeft(grid);
+  return group;
+}
+
+}  // namespace tarnwick::forms
