@@ -5,16 +5,18 @@
 namespace tarnwick::calc {
 namespace {
 
+using common::PixelMatrix;
+
 constexpr std::string_view blankLabel = "$00";
 
 std::string rowLabel(const PixelMatrix& pixels, std::size_t row) {
   constexpr std::string_view hexDigits = "0123456789ABCDEF";
-  constexpr PixelMatrix rowMask((1U << columnCount) - 1);
-  const auto value = (pixels >> (row * columnCount) & rowMask).to_ulong();
+  constexpr PixelMatrix rowMask((1U << common::matrixColumns) - 1);
+  const auto value = (pixels >> (row * common::matrixColumns) & rowMask).to_ulong();
   return {'$', hexDigits[value / 16], hexDigits[value % 16]};
 }
 
-std::string joined(const std::array<std::string, rowCount>& labels) {
+std::string joined(const std::array<std::string, common::matrixRows>& labels) {
   std::string data;
   for (const std::string& label : labels) data += ", " + label;
   return data;
@@ -39,8 +41,8 @@ CharacterSet TogglePixel(CharacterSet set, std::size_t p) {
 
 CharacterSet UpdateCharacter(CharacterSet set) {
   const std::size_t p = set.shown.LastPixel;
-  const std::size_t row = p / columnCount;
-  CharacterSlot& slot = set.shown.slots.at(set.kept.SelectedSlot);
+  const std::size_t row = p / common::matrixColumns;
+  CharacterSlot& slot = set.shown.slotTable.at(set.kept.SelectedSlot);
 
   set.shown.lLine.at(row) = rowLabel(set.kept.Pixels, row);
   slot.picture.set(p, set.kept.Pixels.test(p));
@@ -54,9 +56,9 @@ CharacterSet UpdateCharacter(CharacterSet set) {
 }
 
 CharacterSet SelectSlot(CharacterSet set, std::size_t slot) {
-  set.kept.Pixels = set.shown.slots.at(slot).picture;
+  set.kept.Pixels = set.shown.slotTable.at(slot).picture;
   set.kept.SelectedSlot = static_cast<std::uint8_t>(slot);
-  for (std::size_t p = 0; p < pixelCount; p += columnCount) {
+  for (std::size_t p = 0; p < common::matrixPixels; p += common::matrixColumns) {
     set.shown.LastPixel = static_cast<std::uint8_t>(p);
     set = UpdateCharacter(std::move(set));
   }
@@ -64,7 +66,7 @@ CharacterSet SelectSlot(CharacterSet set, std::size_t slot) {
 }
 
 CharacterSet InvertAll(CharacterSet set) {
-  for (std::size_t p = 0; p < pixelCount; ++p) set = TogglePixel(std::move(set), p);
+  for (std::size_t p = 0; p < common::matrixPixels; ++p) set = TogglePixel(std::move(set), p);
   return set;
 }
 
@@ -76,7 +78,7 @@ CharacterSet Clear(CharacterSet set) {
 CharacterSet DeleteSelectedCharacter(CharacterSet set) {
   set.kept.Pixels.reset();
   set.kept.CharacterData.at(set.kept.SelectedSlot).clear();
-  set.shown.slots.at(set.kept.SelectedSlot) = {};
+  set.shown.slotTable.at(set.kept.SelectedSlot) = {};
   return set;
 }
 

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "common/pixel_matrix.h"
+
 #include <array>
-#include <bitset>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -10,14 +11,8 @@
 namespace tarnwick::calc {
 
 // The user-defined characters that an HD44780-type LCD controller keeps in its character generator
-// RAM under the codes 0 to 7: matrices of 5 columns by 8 rows.
+// RAM under the codes 0 to 7, and the editor that draws them.
 inline constexpr std::size_t slotCount = 8;
-inline constexpr std::size_t rowCount = 8;
-inline constexpr std::size_t columnCount = 5;
-inline constexpr std::size_t pixelCount = rowCount * columnCount;
-
-// Pixel row * 5 + bit, set where it is on: row 0 is the top one, bit 0 the rightmost column.
-using PixelMatrix = std::bitset<pixelCount>;
 
 // PBP text that sets the LCD's CGRAM address to the first row of each slot: command byte
 // $40 + 8 * slot. Source: HD44780U data sheet, instruction "Set CGRAM address".
@@ -27,30 +22,30 @@ inline constexpr std::array<std::string_view, slotCount> CgramCommand = {
 
 // One row of the slot table, as it is shown.
 struct CharacterSlot {
-  PixelMatrix picture;        // the only store of the slot's pixels
-  std::string dataDisplay;    // the character data from its second character on
-  std::string description;    // UTF-8, free text
-  std::string constantAlias;  // UTF-8, name of the constant that stands for the character's code
-  bool enabled = false;       // description and alias can be edited
+  common::PixelMatrix picture;  // the only store of the slot's pixels
+  std::string dataDisplay;      // the character data from its second character on
+  std::string description;      // UTF-8, free text
+  std::string constantAlias;    // UTF-8, name of the constant that stands for the character's code
+  bool enabled = false;         // description and alias can be edited
 };
 
-// The eight characters and the editor that draws them.
+// The eight characters and the state of their editor.
 struct CharacterSet {
-  // Outlives the editor's window. All but the data of the slot selected last is found again when
-  // the window is opened anew, although its pictures and fields then start blank.
+  // Outlives the editor's window. Opening it anew blanks the grid and drops the data of the slot
+  // selected last; the data of the other slots stays, although nothing in the window shows it.
   struct Kept {
     // Eight row labels, each after ", "; empty while the slot is not in use.
     std::array<std::string, slotCount> CharacterData;
-    PixelMatrix Pixels;             // in the editing grid and the preview
+    common::PixelMatrix Pixels;     // in the editing grid and the preview
     std::uint8_t SelectedSlot = 0;  // being edited
   };
 
   // Starts afresh with every opening of the window.
   struct Shown {
-    std::array<CharacterSlot, slotCount> slots;
+    std::array<CharacterSlot, slotCount> slotTable;
     // Row values, "$00" to "$1F". Character data is built from them as they stand, also where they
     // no longer match the grid: deleting a character leaves them behind.
-    std::array<std::string, rowCount> lLine;
+    std::array<std::string, common::matrixRows> lLine;
     std::string leadText;        // UTF-8, on the simulated LCD to the left of the character
     std::string followText;      // UTF-8, to the right of it
     std::uint8_t LastPixel = 0;  // toggled last: the row that UpdateCharacter recomputes

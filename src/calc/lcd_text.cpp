@@ -75,7 +75,7 @@ std::string padded(std::string_view alias) {
 LcdCharacters lcdCharacters(const CharacterSet& set) {
   LcdCharacters characters;
   for (std::size_t i = 0; i < slotCount; ++i) {
-    const CharacterSlot& slot = set.shown.slots[i];
+    const CharacterSlot& slot = set.shown.slotTable[i];
     characters[i] = {set.kept.CharacterData[i], slot.description, slot.constantAlias};
   }
   return characters;

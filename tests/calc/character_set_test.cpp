@@ -91,7 +91,7 @@ private:
   }
 };
 
-std::string pictureText(const PixelMatrix& pixels) {
+std::string pictureText(const common::PixelMatrix& pixels) {
   std::string text;
   for (std::size_t row = 0; row < 8; ++row) {
     for (std::size_t bit = 5; bit-- > 0;) text += pixels.test(row * 5 + bit) ? '#' : '.';
@@ -111,7 +111,7 @@ std::string wholeState(const CharacterSet& set) {
                      set.shown.leadText + set.shown.followText;
   for (const std::string& label : set.shown.lLine) text += label;
   for (std::size_t i = 0; i < 8; ++i) {
-    const CharacterSlot& slot = set.shown.slots[i];
+    const CharacterSlot& slot = set.shown.slotTable[i];
     text += "\n" + pictureText(slot.picture) + "|" + set.kept.CharacterData[i] + "|" +
             slot.dataDisplay + "|" + slot.description + "|" + slot.constantAlias +
             (slot.enabled ? "|on" : "|off");
@@ -183,8 +183,8 @@ TEST(CharacterSet, AgreesWithASimplerStatementOfItsRules) {
     } else if (simple.slots[simple.current].editable) {
       done = "name";
       Drawn& drawn = simple.slots[simple.current];
-      set.shown.slots[slot].description = drawn.description = "text " + std::to_string(step);
-      set.shown.slots[slot].constantAlias = drawn.alias = "Alias" + std::to_string(step);
+      set.shown.slotTable[slot].description = drawn.description = "text " + std::to_string(step);
+      set.shown.slotTable[slot].constantAlias = drawn.alias = "Alias" + std::to_string(step);
     }
     ++seen[done.substr(0, done.find(' '))];
     ASSERT_EQ(wholeState(set), wholeState(simple)) << "after step " << step << ": " << done;
@@ -198,11 +198,11 @@ TEST(CharacterSet, ShowsTheRowsOfAPixelAsHexadecimalBytes) {
   const CharacterSet blank = OpenEditor({});
   const CharacterSet left = TogglePixel(blank, 4);
   EXPECT_EQ(left.kept.CharacterData[0], ", $10, $00, $00, $00, $00, $00, $00, $00");
-  EXPECT_EQ(left.shown.slots[0].dataDisplay, " $10, $00, $00, $00, $00, $00, $00, $00");
-  EXPECT_TRUE(left.shown.slots[0].enabled);
+  EXPECT_EQ(left.shown.slotTable[0].dataDisplay, " $10, $00, $00, $00, $00, $00, $00, $00");
+  EXPECT_TRUE(left.shown.slotTable[0].enabled);
   EXPECT_EQ(TogglePixel(blank, 0).shown.lLine[0], "$01");
   EXPECT_EQ(TogglePixel(blank, 38).shown.lLine[7], "$08");
-  EXPECT_EQ(InvertAll(blank).shown.slots[0].dataDisplay, " $1F, $1F, $1F, $1F, $1F, $1F, $1F, $1F");
+  EXPECT_EQ(InvertAll(blank).shown.slotTable[0].dataDisplay, " $1F, $1F, $1F, $1F, $1F, $1F, $1F, $1F");
   EXPECT_EQ(CgramCommand[0], "LCDOUT $FE, $40");
   EXPECT_EQ(CgramCommand[7], "LCDOUT $FE, $78");
 }
@@ -211,28 +211,28 @@ TEST(CharacterSet, LeavesTheRowLabelsOfADeletedCharacter) {
   CharacterSet set = DeleteSelectedCharacter(InvertAll(OpenEditor({})));
   EXPECT_EQ(set.shown.lLine[7], "$1F");
   set = TogglePixel(std::move(set), 2);
-  EXPECT_EQ(set.shown.slots[0].dataDisplay, " $04, $1F, $1F, $1F, $1F, $1F, $1F, $1F");
-  EXPECT_EQ(set.shown.slots[0].picture.count(), 1U);
-  EXPECT_EQ(SelectSlot(SelectSlot(set, 1), 0).shown.slots[0].dataDisplay,
+  EXPECT_EQ(set.shown.slotTable[0].dataDisplay, " $04, $1F, $1F, $1F, $1F, $1F, $1F, $1F");
+  EXPECT_EQ(set.shown.slotTable[0].picture.count(), 1U);
+  EXPECT_EQ(SelectSlot(SelectSlot(set, 1), 0).shown.slotTable[0].dataDisplay,
             " $04, $00, $00, $00, $00, $00, $00, $00");
   EXPECT_EQ(Clear(set).shown.lLine[7], "$00");
 }
 
 TEST(CharacterSet, KeepsTheDataOfOtherSlotsWhenTheWindowIsOpenedAnew) {
   CharacterSet set = TogglePixel(SelectSlot(TogglePixel(OpenEditor({}), 4), 3), 0);
-  set.shown.slots[0].description = "lost";
+  set.shown.slotTable[0].description = "lost";
   set = OpenEditor(std::move(set));
   EXPECT_EQ(set.kept.CharacterData[0], ", $10, $00, $00, $00, $00, $00, $00, $00");
   EXPECT_EQ(set.kept.CharacterData[3], "");
   EXPECT_EQ(set.kept.SelectedSlot, 0);
-  EXPECT_EQ(set.shown.slots[0].dataDisplay + set.shown.slots[0].description, "");
-  EXPECT_TRUE(set.shown.slots[0].picture.none());
+  EXPECT_EQ(set.shown.slotTable[0].dataDisplay + set.shown.slotTable[0].description, "");
+  EXPECT_TRUE(set.shown.slotTable[0].picture.none());
   EXPECT_EQ(SelectSlot(std::move(set), 0).kept.CharacterData[0], "");
 }
 
 TEST(CharacterSet, RefusesPixelsAndSlotsThatDoNotExist) {
   const CharacterSet set = OpenEditor({});
-  EXPECT_THROW((void)TogglePixel(set, pixelCount), std::out_of_range);
+  EXPECT_THROW((void)TogglePixel(set, common::matrixPixels), std::out_of_range);
   EXPECT_THROW((void)SelectSlot(set, slotCount), std::out_of_range);
 }
 

@@ -144,8 +144,8 @@ TEST(BuildLcdText, AgreesWithItsListOfLinesInEveryCombination) {
 
 TEST(LcdCharacters, AreTheKeptDataWithTheShownNames) {
   CharacterSet set = TogglePixel(SelectSlot(OpenEditor({}), 6), 39);
-  set.shown.slots[6].description = "dot";
-  set.shown.slots[6].constantAlias = "Dot";
+  set.shown.slotTable[6].description = "dot";
+  set.shown.slotTable[6].constantAlias = "Dot";
   EXPECT_EQ(BuildLcdText(defaults, false, lcdCharacters(set)),
             withCrLf({"    '", "    '    Custom character definition",
                       "    '    ===========================",
