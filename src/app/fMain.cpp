@@ -2,6 +2,7 @@
 
 #include "common/product.h"
 #include "ui/text.h"
+#include "ui/twips.h"
 #include "ui/widgets.h"
 
 #include <QFont>
@@ -21,10 +22,9 @@ namespace {
 
 namespace product = common::product;
 
-constexpr int twipsPerPixel = 15;
-constexpr QSize pictureSize(4695 / twipsPerPixel, 3615 / twipsPerPixel);
-constexpr int buttonLeft = 2700 / twipsPerPixel;
-constexpr QSize buttonSize(1815 / twipsPerPixel, 350 / twipsPerPixel);
+constexpr QSize pictureSize(ui::fromTwips(4695), ui::fromTwips(3615));
+constexpr int buttonLeft = ui::fromTwips(2700);
+constexpr QSize buttonSize(ui::fromTwips(1815), ui::fromTwips(350));
 
 struct LauncherButton {
   std::string_view control;
@@ -99,7 +99,7 @@ void fMain::layOutButtons(QWidget* client) {
   for (const LauncherButton& button : launcherButtons) {
     auto* push = ui::button(client, button.control, button.caption);
     push->setFont(font);
-    push->setGeometry(QRect(QPoint(buttonLeft, button.topTwips / twipsPerPixel), buttonSize));
+    push->setGeometry(QRect(QPoint(buttonLeft, ui::fromTwips(button.topTwips)), buttonSize));
     push->setEnabled(windows_.has(button.window));
     connect(push, &QPushButton::clicked, this, [this, button] { windows_.open(button.window); });
   }

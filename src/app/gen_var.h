@@ -1,5 +1,6 @@
 #pragma once
 
+#include "calc/character_set.h"
 #include "common/oscillator.h"
 
 #include <string>
@@ -9,6 +10,7 @@ namespace tarnwick::app {
 // What the whole program shares while it runs.
 struct GenVar {
   common::OscillatorSetting oscillator;
+  calc::CharacterSet characters;  // of the LCD generator; part of it outlives that window
 };
 
 // Asks the desktop to open a web site.

@@ -42,6 +42,20 @@ void fitWidth(QLineEdit& field, std::string_view widest) {
       field.style()->sizeFromContents(QStyle::CT_LineEdit, &option, text, &field).width());
 }
 
+void useFixedPitch(QWidget& control) {
+  control.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+}
+
+QLineEdit* textField(QWidget* parent, std::string_view name, int maxLength) {
+  auto* field = new QLineEdit(parent);
+  field->setObjectName(toQt(name));
+  field->setMaxLength(maxLength);
+  useFixedPitch(*field);
+  fitWidth(*field, std::string(static_cast<std::size_t>(maxLength), 'W'));
+  field->setFixedWidth(field->minimumWidth());
+  return field;
+}
+
 ResultField::ResultField(QWidget* parent, std::string_view name, std::string_view widest)
     : QLineEdit(parent) {
   setObjectName(toQt(name));
@@ -87,7 +101,7 @@ ResultColumn::ResultColumn(QWidget* parent, std::string_view name, std::string_v
   setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   setLineWrapMode(QPlainTextEdit::NoWrap);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  useFixedPitch(*this);
   ensurePolished();
   const int margins = 2 * (static_cast<int>(document()->documentMargin()) + frameWidth());
   setMinimumWidth(fontMetrics().horizontalAdvance(toQt(widest)) + margins + 1);

@@ -29,6 +29,12 @@ void fitWidth(QLineEdit& field, std::string_view widest);
 // Answers the object name of a member of an indexed family: "oPrescaller(3)".
 [[nodiscard]] std::string indexed(std::string_view family, int index);
 
+// Shows a control's text in the system's fixed-pitch font.
+void useFixedPitch(QWidget& control);
+
+// A one-line field for free text in the fixed-pitch font, as wide as its longest text.
+[[nodiscard]] QLineEdit* textField(QWidget* parent, std::string_view name, int maxLength);
+
 // A read-only one-line field for a result.
 class ResultField : public QLineEdit {
   Q_OBJECT

@@ -24,7 +24,8 @@ INSTANTIATE_TEST_SUITE_P(EachWindow, RandomEvents,
                          testing::Values(Trial{"cTimer", 10'000}, Trial{"cTimerHelper", 10'000},
                                          Trial{"cUSART", 10'000}, Trial{"cEUSART", 10'000},
                                          Trial{"cSerinSerout2", 10'000}, Trial{"cPWM", 10'000},
-                                         Trial{"cAD", 10'000}, Trial{"Command1", 10'000}),
+                                         Trial{"cAD", 10'000}, Trial{"Command1", 10'000},
+                                         Trial{"cCustomChar", 20'000}),
                          [](const auto& trial) { return trial.param.launcherButton; });
 
 }  // namespace

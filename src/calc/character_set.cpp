@@ -1,0 +1,103 @@
+#include "calc/character_set.h"
+
+#include <utility>
+
+namespace tarnwick::calc {
+namespace {
+
+using common::PixelMatrix;
+
+constexpr std::string_view blankLabel = "$00";
+
+std::string rowLabel(const PixelMatrix& pixels, std::size_t row) {
+  constexpr std::string_view hexDigits = "0123456789ABCDEF";
+  constexpr PixelMatrix rowMask((1U << common::matrixColumns) - 1);
+  const auto value = (pixels >> (row * common::matrixColumns) & rowMask).to_ulong();
+  return {'$', hexDigits[value / 16], hexDigits[value % 16]};
+}
+
+std::string joined(const std::array<std::string, common::matrixRows>& labels) {
+  std::string data;
+  for (const std::string& label : labels) data += ", " + label;
+  return data;
+}
+
+}  // namespace
+
+CharacterSet OpenEditor(CharacterSet set) {
+  set.shown = {};
+  set = Clear(std::move(set));
+  set = SetLeadText(std::move(set), "AB");
+  set = SetFollowText(std::move(set), "CD");
+  set.kept.SelectedSlot = 0;
+  return set;
+}
+
+CharacterSet TogglePixel(CharacterSet set, std::size_t p) {
+  set.kept.Pixels.flip(p);
+  set.shown.LastPixel = static_cast<std::uint8_t>(p);
+  return UpdateCharacter(std::move(set));
+}
+
+CharacterSet UpdateCharacter(CharacterSet set) {
+  const std::size_t p = set.shown.LastPixel;
+  const std::size_t row = p / common::matrixColumns;
+  CharacterSlot& slot = set.shown.slotTable.at(set.kept.SelectedSlot);
+
+  set.shown.lLine.at(row) = rowLabel(set.kept.Pixels, row);
+  slot.picture.set(p, set.kept.Pixels.test(p));
+  if (set.kept.Pixels.none()) return DeleteSelectedCharacter(std::move(set));
+
+  std::string& data = set.kept.CharacterData.at(set.kept.SelectedSlot);
+  data = joined(set.shown.lLine);
+  slot.dataDisplay = data.substr(1);
+  slot.enabled = true;
+  return set;
+}
+
+CharacterSet SelectSlot(CharacterSet set, std::size_t slot) {
+  set.kept.Pixels = set.shown.slotTable.at(slot).picture;
+  set.kept.SelectedSlot = static_cast<std::uint8_t>(slot);
+  for (std::size_t p = 0; p < common::matrixPixels; p += common::matrixColumns) {
+    set.shown.LastPixel = static_cast<std::uint8_t>(p);
+    set = UpdateCharacter(std::move(set));
+  }
+  return set;
+}
+
+CharacterSet InvertAll(CharacterSet set) {
+  for (std::size_t p = 0; p < common::matrixPixels; ++p) set = TogglePixel(std::move(set), p);
+  return set;
+}
+
+CharacterSet Clear(CharacterSet set) {
+  set.shown.lLine.fill(std::string(blankLabel));
+  return DeleteSelectedCharacter(std::move(set));
+}
+
+CharacterSet DeleteSelectedCharacter(CharacterSet set) {
+  set.kept.Pixels.reset();
+  set.kept.CharacterData.at(set.kept.SelectedSlot).clear();
+  set.shown.slotTable.at(set.kept.SelectedSlot) = {};
+  return set;
+}
+
+CharacterSet DeleteAll(CharacterSet set) {
+  for (std::size_t slot = 0; slot < slotCount; ++slot) {
+    set.kept.SelectedSlot = static_cast<std::uint8_t>(slot);
+    set = DeleteSelectedCharacter(std::move(set));
+  }
+  return SelectSlot(std::move(set), 0);
+}
+
+CharacterSet SetLeadText(CharacterSet set, std::string text) {
+  set.shown.leadText = std::move(text);
+  return set;
+}
+
+CharacterSet SetFollowText(CharacterSet set, std::string text) {
+  set.shown.followText = std::move(text);
+  return set;
+}
+
+}  // namespace tarnwick::calc

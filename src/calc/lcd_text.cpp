@@ -1,0 +1,101 @@
+#include "calc/lcd_text.h"
+
+#include "common/number_text.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+namespace tarnwick::calc {
+namespace {
+
+constexpr std::size_t aliasWidth = 20;
+
+void addLine(std::string& text, std::string_view line) {
+  text += line;
+  text += common::lineEnd;
+}
+
+// A block's lines under its heading, with an empty line behind; nothing where there are none.
+std::string block(std::string_view heading, std::string_view lines) {
+  if (lines.empty()) return {};
+  std::string text;
+  addLine(text, "    '");
+  addLine(text, "    '    " + std::string(heading));
+  addLine(text, "    '    " + std::string(heading.size(), '='));
+  text += lines;
+  addLine(text, "");
+  return text;
+}
+
+std::string defineLines(const LcdSettings& settings) {
+  struct Define {
+    std::string_view prefix;
+    std::string_view value;
+    std::string_view suffix;
+    bool readWrite = false;
+  };
+  const std::array<Define, 12> defines = {{
+      {"DEFINE LCD_DREG ", settings.dataPort, "     ' LCD data port"},
+      {"DEFINE LCD_DBIT ", settings.dataBit, "         ' LCD data starting bit"},
+      {"DEFINE LCD_RSREG ", settings.registerPort, "    ' LCD register select port"},
+      {"DEFINE LCD_RSBIT ", settings.registerBit, "        ' LCD register select bit"},
+      {"DEFINE LCD_EREG ", settings.enablePort, "     ' LCD enable port"},
+      {"DEFINE LCD_EBIT ", settings.enableBit, "         ' LCD enable bit"},
+      {"DEFINE LCD_RWREG ", settings.readWritePort, "    ' LCD read/write port", true},
+      {"DEFINE LCD_RWBIT ", settings.readWriteBit, "        ' LCD read/write bit", true},
+      {"DEFINE LCD_BITS ", settings.busWidth, "         ' LCD data bus size"},
+      {"DEFINE LCD_LINES ", settings.lines, "        ' Number lines on LCD"},
+      {"DEFINE LCD_COMMANDUS ", settings.commandDelayUs, " ' Command delay time in us"},
+      {"DEFINE LCD_DATAUS ", settings.dataDelayUs, "      ' Data delay time in us"},
+  }};
+  std::string lines;
+  for (const Define& define : defines) {
+    if (define.readWrite && settings.readWritePort.empty()) continue;
+    addLine(lines, std::string(define.prefix).append(define.value).append(define.suffix));
+  }
+  return lines;
+}
+
+// The first byte of each UTF-8 character is not a continuation byte (binary 10xxxxxx).
+std::size_t characterCount(std::string_view text) {
+  return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
+  }));
+}
+
+std::string padded(std::string_view alias) {
+  const std::size_t length = std::min(characterCount(alias), aliasWidth);
+  return std::string(alias).append(aliasWidth - length, ' ');
+}
+
+}  // namespace
+
+LcdCharacters lcdCharacters(const CharacterSet& set) {
+  LcdCharacters characters;
+  for (std::size_t i = 0; i < slotCount; ++i) {
+    const CharacterSlot& slot = set.shown.slotTable[i];
+    characters[i] = {set.kept.CharacterData[i], slot.description, slot.constantAlias};
+  }
+  return characters;
+}
+
+std::string BuildLcdText(const LcdSettings& settings, bool includeDefines,
+                         const LcdCharacters& characters) {
+  const std::string setUp = includeDefines ? defineLines(settings) : std::string();
+  std::string definitions;
+  std::string constants;
+  for (std::size_t i = 0; i < slotCount; ++i) {
+    const auto& [data, description, alias] = characters[i];
+    if (!alias.empty())
+      addLine(constants, padded(alias) + " CON " + common::wholeText(static_cast<std::int64_t>(i)));
+    if (!data.empty()) {
+      addLine(definitions, std::string(CgramCommand[i]) + data + " ' " + description);
+    }
+  }
+  return block("LCD setup", setUp) + block("Custom character definition", definitions) +
+         block("Custom character constant(s)", constants);
+}
+
+}  // namespace tarnwick::calc

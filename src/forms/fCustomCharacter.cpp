@@ -1,0 +1,350 @@
+#include "forms/fCustomCharacter.h"
+
+#include "common/number_text.h"
+#include "ui/desktop.h"
+#include "ui/layout.h"
+#include "ui/text.h"
+#include "ui/twips.h"
+
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace tarnwick::forms {
+namespace {
+
+using Items = std::span<const std::string_view>;
+
+constexpr std::array<std::string_view, 10> ports{"PORTA", "PORTB", "PORTC", "PORTD", "PORTE",
+                                                 "PORTF", "PORTG", "PORTH", "PORTI", "PORTJ"};
+constexpr std::array<std::string_view, 8> bits{"0", "1", "2", "3", "4", "5", "6", "7"};
+constexpr std::array<std::string_view, 2> dataBits{"0", "4"};
+constexpr std::array<std::string_view, 2> busWidths{"4", "8"};
+constexpr std::array<std::string_view, 2> lineCounts{"2", "4"};
+constexpr int portB = 1;  // items of the lists
+constexpr int first = 0;
+
+constexpr int nameLength = 20;
+constexpr int slotPitch = ui::fromTwips(480);
+constexpr std::string_view widestData = " $00, $00, $00, $00, $00, $00, $00, $00";
+
+ui::EditableList* list(QWidget* parent, std::string_view name, std::string_view spoken,
+                       Items items) {
+  auto* made = new ui::EditableList(parent, name, items, items.front());
+  ui::nameAfter(made, spoken);
+  return made;
+}
+
+void showText(QLineEdit& field, const std::string& text) {
+  if (ui::fromQt(field.text()) != text) field.setText(ui::toQt(text));
+}
+
+}  // namespace
+
+fCustomCharacter::fCustomCharacter(calc::CharacterSet& characters)
+    : Window("fCustomCharacter", "LCD Custom character generator"), characters_(characters) {
+  layOut();
+  connectSettings();
+  connectEditor();
+  Form_Load();
+}
+
+QWidget* fCustomCharacter::layOutSettings() {
+  auto* group = ui::group(this, "fSettings", "LCD settings");
+  auto* table = ui::grid(group);
+  table->addWidget(ui::label(group, "lPort", "Port"), 0, 1, Qt::AlignHCenter);
+  table->addWidget(ui::label(group, "lBit", "Bit"), 0, 2, Qt::AlignHCenter);
+
+  const auto wire = [&](const std::string& name, std::string_view caption, Items bitItems) {
+    const std::string spoken(caption.substr(0, caption.find(' ')));
+    const int row = table->rowCount();
+    const Wire made{list(group, "Port" + name, spoken + " port", ports),
+                    list(group, "Bit" + name, spoken + " bit", bitItems)};
+    table->addWidget(ui::label(group, "l" + name, caption), row, 0, Qt::AlignRight);
+    table->addWidget(made.port, row, 1);
+    table->addWidget(made.bit, row, 2);
+    return made;
+  };
+  data = wire("Data", "Data", dataBits);
+  registerSelect = wire("RS", "RS", bits);
+  enable = wire("E", "E", bits);
+  readWrite = wire("RW", "R/W ", bits);
+
+  const auto setting = [&](int row, std::string_view name, std::string_view caption,
+                           QWidget* field) {
+    ui::nameAfter(field, caption);
+    table->addWidget(ui::label(group, name, caption), row, 4, Qt::AlignRight);
+    table->addWidget(field, row, 5, Qt::AlignLeft);
+  };
+  Bits = list(group, "Bits", "Mode", busWidths);
+  Lines = list(group, "Lines", "Lines", lineCounts);
+  tCommandUS = new ui::EntryField(group, "tCommandUS", {.maxLength = 4, .widest = "00000"});
+  tDataUS = new ui::EntryField(group, "tDataUS", {.maxLength = 3, .widest = "00000"});
+  setting(1, "lMode", "Mode", Bits);
+  setting(2, "lLines", "Lines", Lines);
+  setting(3, "lCommandUS", "Command (uSec)", tCommandUS);
+  setting(4, "lDataUS", "Data (uSec)", tDataUS);
+  table->addWidget(ui::label(group, "lBits", "bits"), 1, 6);
+  for (QLineEdit* delay : {tCommandUS, tDataUS}) delay->setFixedWidth(delay->minimumWidth());
+  table->setColumnStretch(3, 1);
+  table->setColumnStretch(7, 2);
+  return group;
+}
+
+QWidget* fCustomCharacter::layOutSlots() {
+  auto* parent = new QWidget(this);
+  auto* table = ui::grid(parent);
+  table->setContentsMargins({});
+  table->setVerticalSpacing(0);
+  table->addWidget(ui::label(parent, "lData", "Character data"), 0, 2);
+  table->addWidget(ui::label(parent, "lDescription", "Description/comment"), 0, 3);
+  table->addWidget(ui::label(parent, "lConstant", "Constant alias"), 0, 4);
+
+  std::array<ui::OptionGroup::Option, calc::slotCount> options{};
+  for (int i = 0; auto& option : options) option.index = i++;
+  oChar = new ui::OptionGroup(parent, "oChar", options);
+  for (int i = 0; SlotRow & slot : slotRows) {
+    const std::string number = common::wholeText(i);
+    slot.picture =
+        new ui::PixelPicture(parent, "Char" + number, {.off = ui::pixelOff, .bordered = true});
+    slot.tChar = new ui::ResultField(parent, ui::indexed("tChar", i), widestData);
+    slot.tChar->setFrame(false);
+    ui::useFixedPitch(*slot.tChar);
+    ui::fitWidth(*slot.tChar, widestData);
+    slot.tName = ui::textField(parent, ui::indexed("tName", i), nameLength);
+    slot.tConstant = ui::textField(parent, ui::indexed("tConstant", i), nameLength);
+
+    ui::nameAfter(oChar->button(i), "Character " + number);
+    ui::nameAfter(slot.picture, "Picture of character " + number);
+    ui::nameAfter(slot.tChar, "Character data " + number);
+    ui::nameAfter(slot.tName, "Description/comment " + number);
+    ui::nameAfter(slot.tConstant, "Constant alias " + number);
+
+    const int row = ++i;
+    table->setRowMinimumHeight(row, slotPitch);
+    int column = 0;
+    for (QWidget* control : std::initializer_list<QWidget*>{oChar->button(row - 1), slot.picture,
+                                                            slot.tChar, slot.tName, slot.tConstant})
+      table->addWidget(control, row, column++, Qt::AlignVCenter);
+  }
+  return parent;
+}
+
+QWidget* fCustomCharacter::layOutLcdText() {
+  auto* group = ui::group(this, "fLcdText", "LCD text");
+  uTleft = ui::textField(group, "uTleft", 2);
+  uTright = ui::textField(group, "uTright", 2);
+  for (QLineEdit* field : {uTleft, uTright}) field->setAlignment(Qt::AlignCenter);
+  ui::nameAfter(uTleft, "Lead");
+  ui::nameAfter(uTright, "Follow");
+  auto* texts = ui::grid(group);
+  texts->addWidget(ui::label(group, "lLead", "Lead"), 0, 0, Qt::AlignRight);
+  texts->addWidget(uTleft, 0, 1);
+  texts->addWidget(ui::label(group, "lFollow", "Follow"), 0, 2, Qt::AlignRight);
+  texts->addWidget(uTright, 0, 3);
+  texts->setColumnStretch(0, 1);
+  texts->setColumnStretch(2, 1);
+  return group;
+}
+
+QWidget* fCustomCharacter::layOutPixels() {
+  auto* parent = new QWidget(this);
+  chk = new ui::PixelGrid(parent, "chk");
+  const int left = chk->width() + 8;
+  int width = 0;
+  for (int row = 0; QLabel * &label : lLine) {
+    label = ui::label(parent, ui::indexed("lLine", row), "$00");
+    ui::useFixedPitch(*label);
+    width = label->sizeHint().width();
+    label->setGeometry(left, ui::PixelGrid::rowTop(row++), width, ui::PixelGrid::rowHeight());
+  }
+  parent->setFixedSize(left + width, chk->height());
+  return parent;
+}
+
+QWidget* fCustomCharacter::layOutGridButtons() {
+  auto* group = ui::group(this, "fGrid", "Grid");
+  cInvertAll = ui::button(group, "cInvertAll", "Invert all");
+  cClear = ui::button(group, "cClear", "Clear");
+  auto* buttons = ui::grid(group);
+  buttons->addWidget(cInvertAll, 0, 0);
+  buttons->addWidget(cClear, 1, 0);
+  return group;
+}
+
+QWidget* fCustomCharacter::layOutResults() {
+  auto* group = ui::group(this, "fResults", "Results");
+  cDeleteChar = ui::button(group, "cDeleteChar", "Delete selected character");
+  cDeletedAll = ui::button(group, "cDeletedAll", "Delete all");
+  cCopyClip = ui::button(group, "cCopyClip", "Copy results to clipboard");
+  cInclude = ui::checkBox(group, "cInclude", "Include LCD Defines");
+  auto* results = ui::grid(group);
+  for (int row = 0; QWidget * control :
+                    std::initializer_list<QWidget*>{cDeleteChar, cDeletedAll, cCopyClip, cInclude})
+    results->addWidget(control, row++, 0);
+  return group;
+}
+
+void fCustomCharacter::layOut() {
+  auto* window = ui::grid(this);
+  window->addWidget(layOutSettings(), 0, 0, 3, 1);
+  window->addWidget(layOutSlots(), 3, 0, 2, 1, Qt::AlignTop);
+  Image2 = new ui::LcdPanel(this);
+  window->addWidget(ui::label(this, "lPreview", "Preview"), 0, 1, 1, 2, Qt::AlignHCenter);
+  window->addWidget(Image2, 1, 1, 1, 2, Qt::AlignHCenter);
+  window->addWidget(layOutLcdText(), 2, 1, 1, 2);
+  window->addWidget(layOutPixels(), 3, 1, Qt::AlignCenter);
+  window->addWidget(layOutGridButtons(), 3, 2);
+  window->addWidget(layOutResults(), 4, 1, 1, 2);
+  ui::fixToContent(this);
+}
+
+void fCustomCharacter::connectSettings() {
+  for (const Wire& wire : {data, registerSelect, enable, readWrite}) {
+    const auto change = [this, wire] { Port_Change(wire); };
+    connect(wire.port, &ui::EditableList::edited, this, change);
+    connect(wire.port, &ui::EditableList::chosen, this, change);
+    connect(wire.port, &ui::EditableList::focusLost, this, change);
+  }
+  for (ui::EditableList* bit : {data.bit, registerSelect.bit, enable.bit})
+    connect(bit, &ui::EditableList::focusLost, this, [this, bit] { Bit_LostFocus(*bit); });
+  connect(tCommandUS, &ui::EntryField::entered, this, [this] { tDataUS->setFocus(); });
+  connect(tDataUS, &ui::EntryField::entered, this, [this] { tCommandUS->setFocus(); });
+}
+
+void fCustomCharacter::connectEditor() {
+  using Self = fCustomCharacter;
+  connect(oChar, &ui::OptionGroup::chosen, this, &Self::oChar_Click);
+  for (std::size_t i = 0; i < slotRows.size(); ++i) {
+    connect(slotRows[i].tName, &QLineEdit::textChanged, this, [this, i] { tName_Change(i); });
+    connect(slotRows[i].tConstant, &QLineEdit::textChanged, this,
+            [this, i] { tConstant_Change(i); });
+  }
+  connect(uTleft, &QLineEdit::textChanged, this, &Self::uTleft_Change);
+  connect(uTright, &QLineEdit::textChanged, this, &Self::uTright_Change);
+  connect(chk, &ui::PixelGrid::clicked, this, &Self::chk_Click);
+  connect(cInvertAll, &QPushButton::clicked, this, &Self::cInvertAll_Click);
+  connect(cClear, &QPushButton::clicked, this, &Self::cClear_Click);
+  connect(cDeleteChar, &QPushButton::clicked, this, &Self::cDeleteChar_Click);
+  connect(cDeletedAll, &QPushButton::clicked, this, &Self::cDeletedAll_Click);
+  connect(cCopyClip, &QPushButton::clicked, this, &Self::cCopyClip_Click);
+}
+
+void fCustomCharacter::Form_Load() {
+  LoadSettings();
+  edit(calc::OpenEditor(std::move(characters_)));
+  uTleft->setText(ui::toQt(characters_.shown.leadText));
+  uTright->setText(ui::toQt(characters_.shown.followText));
+}
+
+void fCustomCharacter::LoadSettings() {
+  data.port->choose(portB);
+  data.bit->choose(first);
+  registerSelect.port->choose(portB);
+  registerSelect.bit->choose(4);
+  enable.port->choose(portB);
+  enable.bit->choose(5);
+  readWrite.port->setCurrentIndex(-1);
+  readWrite.bit->choose(first);
+  Bits->choose(first);
+  Lines->choose(first);
+  tCommandUS->setContents("2000");
+  tDataUS->setContents("50");
+}
+
+void fCustomCharacter::Port_Change(const Wire& wire) {
+  wire.bit->setEnabled(!wire.port->contents().empty());
+}
+
+void fCustomCharacter::Bit_LostFocus(ui::EditableList& bit) {
+  if (bit.contents().empty()) bit.choose(first);
+}
+
+void fCustomCharacter::oChar_Click(int slot) {
+  if (slot == characters_.kept.SelectedSlot) return;
+  edit(calc::SelectSlot(std::move(characters_), static_cast<std::size_t>(slot)));
+}
+
+void fCustomCharacter::tName_Change(std::size_t slot) {
+  characters_.shown.slotTable.at(slot).description = ui::fromQt(slotRows.at(slot).tName->text());
+}
+
+void fCustomCharacter::tConstant_Change(std::size_t slot) {
+  characters_.shown.slotTable.at(slot).constantAlias =
+      ui::fromQt(slotRows.at(slot).tConstant->text());
+}
+
+void fCustomCharacter::uTleft_Change() {
+  edit(calc::SetLeadText(std::move(characters_), ui::fromQt(uTleft->text())));
+}
+
+void fCustomCharacter::uTright_Change() {
+  edit(calc::SetFollowText(std::move(characters_), ui::fromQt(uTright->text())));
+}
+
+void fCustomCharacter::chk_Click(int pixel) {
+  edit(calc::TogglePixel(std::move(characters_), static_cast<std::size_t>(pixel)));
+}
+
+void fCustomCharacter::cInvertAll_Click() {
+  edit(calc::InvertAll(std::move(characters_)));
+}
+
+void fCustomCharacter::cClear_Click() {
+  edit(calc::Clear(std::move(characters_)));
+}
+
+void fCustomCharacter::cDeleteChar_Click() {
+  edit(calc::DeleteSelectedCharacter(std::move(characters_)));
+}
+
+void fCustomCharacter::cDeletedAll_Click() {
+  edit(calc::DeleteAll(std::move(characters_)));
+}
+
+void fCustomCharacter::cCopyClip_Click() {
+  ui::copyToClipboard(
+      calc::BuildLcdText(settings(), cInclude->isChecked(), calc::lcdCharacters(characters_)));
+}
+
+void fCustomCharacter::edit(calc::CharacterSet characters) {
+  characters_ = std::move(characters);
+  showCharacters();
+}
+
+void fCustomCharacter::showCharacters() {
+  const auto& [kept, shown] = std::as_const(characters_);
+  for (std::size_t i = 0; i < slotRows.size(); ++i) {
+    const SlotRow& row = slotRows[i];
+    const calc::CharacterSlot& slot = shown.slotTable[i];
+    row.picture->setPixels(slot.picture);
+    showText(*row.tChar, slot.dataDisplay);
+    showText(*row.tName, slot.description);
+    showText(*row.tConstant, slot.constantAlias);
+    row.tName->setEnabled(slot.enabled);
+    row.tConstant->setEnabled(slot.enabled);
+  }
+  oChar->select(kept.SelectedSlot);
+  chk->setPixels(kept.Pixels);
+  for (std::size_t row = 0; row < lLine.size(); ++row)
+    lLine[row]->setText(ui::toQt(shown.lLine[row]));
+  Image2->setPixels(kept.Pixels);
+  Image2->setTexts(shown.leadText, shown.followText);
+}
+
+calc::LcdSettings fCustomCharacter::settings() const {
+  return {.dataPort = data.port->contents(),
+          .dataBit = data.bit->contents(),
+          .registerPort = registerSelect.port->contents(),
+          .registerBit = registerSelect.bit->contents(),
+          .enablePort = enable.port->contents(),
+          .enableBit = enable.bit->contents(),
+          .readWritePort = readWrite.port->contents(),
+          .readWriteBit = readWrite.bit->contents(),
+          .busWidth = Bits->contents(),
+          .lines = Lines->contents(),
+          .commandDelayUs = tCommandUS->contents(),
+          .dataDelayUs = tDataUS->contents()};
+}
+
+}  // namespace tarnwick::forms
