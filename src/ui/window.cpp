@@ -52,6 +52,11 @@ Window::Window(std::string_view name, std::string_view caption)
           [this](QWidget*, QWidget* now) { followFocus(now); });
 }
 
+// The toolkit may still move the focus while it takes a window apart: nothing follows it then.
+Window::~Window() {
+  disconnect(qApp, nullptr, this, nullptr);
+}
+
 void Window::bringForward() {
   setWindowState(windowState() & ~Qt::WindowMinimized);
   show();
