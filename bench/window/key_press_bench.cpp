@@ -24,9 +24,15 @@ struct Entry {
   std::array<const char*, 2> texts;
 };
 
-constexpr std::array<Entry, 3> entries{{{"fTimer", "tOSC", {"4", "20"}},
-                                        {"fMinADTime", "tImpedance", {"10", "2.5"}},
-                                        {"fComparator", "tVdd", {"5", "3"}}}};
+constexpr std::array entries{
+    Entry{"fTimer", "tOSC", {"4", "20"}},
+    Entry{"fTimerHelper", "tDelay", {"240", "250"}},
+    Entry{"fUSART", "BaudRate", {"9600", "19200"}},
+    Entry{"fEUSART", "BaudRate", {"9600", "19200"}},
+    Entry{"fSerinSerout2", "tBaud", {"9600", "2400"}},
+    Entry{"fPWM", "tFreq", {"5", "5.1"}},
+    Entry{"fMinADTime", "tImpedance", {"10", "2.5"}},
+    Entry{"fComparator", "tVdd", {"5", "3"}}};
 constexpr int presses = 2001;
 
 double medianMicroseconds(QWidget& window, const Entry& entry) {
@@ -58,7 +64,7 @@ int main(int argc, char* argv[]) {
   for (const Entry& entry : entries) {
     windows.open(entry.window);
     QApplication::processEvents();
-    std::printf("%-12s %-12s %7.1f us (median of %d)\n", entry.window, entry.field,
+    std::printf("%-14s %-12s %7.1f us (median of %d)\n", entry.window, entry.field,
                 medianMicroseconds(*windows.loaded(entry.window), entry), presses);
   }
   return 0;
