@@ -133,8 +133,10 @@ void Program::paste(const std::string& field, const std::string& text) {
 }
 
 void Program::pick(const std::string& list, int item) {
-  click(list);
-  auto* view = control<QComboBox>(list)->view();
+  auto* box = control<QComboBox>(list);
+  constexpr int arrow = 8;  // from the right edge; the rest of an editable list is its text
+  clickAt(list, {box->width() - arrow, box->height() / 2});
+  auto* view = box->view();
   ASSERT_TRUE(QTest::qWaitForWindowExposed(view->window()));
   const QModelIndex index = view->model()->index(item, 0);
   view->scrollTo(index);
