@@ -23,16 +23,16 @@ struct Drawn {
 
 class SimpleEditor {
 public:
-  std::map<int, Drawn> slots;
+  std::vector<Drawn> slots = std::vector<Drawn>(8);
   std::vector<std::string> labels;
-  int current = 0;
+  std::size_t current = 0;
   std::string lead, follow;
 
   SimpleEditor() { open(); }
 
   void open() {
-    std::map<int, Drawn> fresh;
-    for (int i = 0; i < 8; ++i) fresh[i].data = i == current ? "" : slots[i].data;
+    std::vector<Drawn> fresh(8);
+    for (std::size_t i = 0; i < 8; ++i) fresh[i].data = i == current ? "" : slots[i].data;
     *this = SimpleEditor(fresh);
   }
   void touch(int row, int column) {
@@ -40,7 +40,7 @@ public:
     relabel(row);
     rebuild();
   }
-  void choose(int slot) {
+  void choose(std::size_t slot) {
     current = slot;
     for (int row = 0; row < 8; ++row) relabel(row);
     rebuild();
@@ -65,7 +65,7 @@ public:
   void removeAll() { *this = SimpleEditor(lead, follow); }
 
 private:
-  explicit SimpleEditor(std::map<int, Drawn> fresh)
+  explicit SimpleEditor(std::vector<Drawn> fresh)
       : slots(std::move(fresh)), labels(8, "$00"), lead("AB"), follow("CD") {}
   SimpleEditor(std::string left, std::string right)
       : labels(8, "$00"), lead(std::move(left)), follow(std::move(right)) {}
@@ -119,12 +119,12 @@ std::string wholeState(const CharacterSet& set) {
   return text;
 }
 
-std::string wholeState(SimpleEditor editor) {
-  std::string text = pictureText(editor.slots[editor.current].dots) +
+std::string wholeState(const SimpleEditor& editor) {
+  std::string text = pictureText(editor.slots.at(editor.current).dots) +
                      std::to_string(editor.current) + editor.lead + editor.follow;
   for (const std::string& label : editor.labels) text += label;
-  for (int i = 0; i < 8; ++i) {
-    const Drawn& slot = editor.slots[i];
+  for (std::size_t i = 0; i < 8; ++i) {
+    const Drawn& slot = editor.slots.at(i);
     text += "\n" + pictureText(slot.dots) + "|" + slot.data + "|" + slot.shown + "|" +
             slot.description + "|" + slot.alias + (slot.editable ? "|on" : "|off");
   }
@@ -142,7 +142,6 @@ TEST(CharacterSet, AgreesWithASimplerStatementOfItsRules) {
   for (int step = 0; step < 100'000; ++step) {
     const int kind = below(100);
     std::string done;
-    const auto slot = static_cast<std::size_t>(simple.current);
     if (kind < 60) {
       // Half of the toggles take the pixel before once more, so that slots often become blank; the
       // top row is taken often, so that inverting blanks slots on its way.
@@ -151,9 +150,9 @@ TEST(CharacterSet, AgreesWithASimplerStatementOfItsRules) {
       set = TogglePixel(std::move(set), static_cast<std::size_t>(row * 5 + 4 - column));
       simple.touch(row, column);
     } else if (kind < 72) {
-      const int chosen = below(8);
+      const auto chosen = static_cast<std::size_t>(below(8));
       done = "select " + std::to_string(chosen);
-      set = SelectSlot(std::move(set), static_cast<std::size_t>(chosen));
+      set = SelectSlot(std::move(set), chosen);
       simple.choose(chosen);
     } else if (kind < 78) {
       done = "invert";
@@ -183,8 +182,10 @@ TEST(CharacterSet, AgreesWithASimplerStatementOfItsRules) {
     } else if (simple.slots[simple.current].editable) {
       done = "name";
       Drawn& drawn = simple.slots[simple.current];
-      set.shown.slotTable[slot].description = drawn.description = "text " + std::to_string(step);
-      set.shown.slotTable[slot].constantAlias = drawn.alias = "Alias" + std::to_string(step);
+      set.shown.slotTable[simple.current].description = drawn.description =
+          "text " + std::to_string(step);
+      set.shown.slotTable[simple.current].constantAlias = drawn.alias =
+          "Alias" + std::to_string(step);
     }
     ++seen[done.substr(0, done.find(' '))];
     ASSERT_EQ(wholeState(set), wholeState(simple)) << "after step " << step << ": " << done;
@@ -202,7 +203,8 @@ TEST(CharacterSet, ShowsTheRowsOfAPixelAsHexadecimalBytes) {
   EXPECT_TRUE(left.shown.slotTable[0].enabled);
   EXPECT_EQ(TogglePixel(blank, 0).shown.lLine[0], "$01");
   EXPECT_EQ(TogglePixel(blank, 38).shown.lLine[7], "$08");
-  EXPECT_EQ(InvertAll(blank).shown.slotTable[0].dataDisplay, " $1F, $1F, $1F, $1F, $1F, $1F, $1F, $1F");
+  EXPECT_EQ(InvertAll(blank).shown.slotTable[0].dataDisplay,
+            " $1F, $1F, $1F, $1F, $1F, $1F, $1F, $1F");
   EXPECT_EQ(CgramCommand[0], "LCDOUT $FE, $40");
   EXPECT_EQ(CgramCommand[7], "LCDOUT $FE, $78");
 }

@@ -133,7 +133,8 @@ void Program::paste(const std::string& field, const std::string& text) {
 }
 
 void Program::pick(const std::string& list, int item) {
-  click(list);
+  const QRect box = control(list)->rect();
+  clickAt(list, QPoint(box.right() - 8, box.center().y()));  // the arrow of an editable list
   auto* view = control<QComboBox>(list)->view();
   ASSERT_TRUE(QTest::qWaitForWindowExposed(view->window()));
   const QModelIndex index = view->model()->index(item, 0);
