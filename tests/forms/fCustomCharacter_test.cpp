@@ -15,6 +15,9 @@ namespace {
 using ui::fromQt;
 
 const std::string blank(40, '.');
+const std::string noLabels = " $00, $00, $00, $00, $00, $00, $00, $00";
+const std::string heading =
+    "    '/    '    Custom character definition/    '    ===========================/";
 
 // A character as eight groups of five, '#' where its pixel is on.
 const std::string arrow = "..#.. .###. ##### ..#.. ..#.. ..#.. ..#.. .....";
@@ -91,6 +94,12 @@ protected:
     return shown(of("tChar", i)) + "|" + shown(of("tName", i)) + "|" + shown(of("tConstant", i)) +
            (on ? "|on" : "|off");
   }
+  bool allSlotsAreBlank() {
+    bool all = true;
+    for (int i = 0; i < 8; ++i)
+      all = all && slot(i) == "|||off" && picture("Char" + std::to_string(i)) == blank;
+    return all;
+  }
   // The text that the copy button leaves on the clipboard, lines parted by "/".
   std::string copied() {
     click("cCopyClip");
@@ -108,13 +117,10 @@ TEST_F(LcdWindow, OpensBlankAtItsPlaces) {
               control("BitE")->isEnabled() && !control("BitRW")->isEnabled());
   EXPECT_FALSE(isSelected("cInclude"));
   EXPECT_TRUE(isSelected("oChar(0)"));
-  EXPECT_EQ(labels(), " $00, $00, $00, $00, $00, $00, $00, $00");
+  EXPECT_EQ(labels(), noLabels);
   EXPECT_EQ(grid(), blank);
   EXPECT_EQ(preview(), blank);
-  for (int i = 0; i < 8; ++i) {
-    EXPECT_EQ(slot(i), "|||off");
-    EXPECT_EQ(picture("Char" + std::to_string(i)), blank);
-  }
+  EXPECT_TRUE(allSlotsAreBlank());
 
   const auto place = [this](const std::string& name) {
     return QRect(control(name)->mapTo(current(), QPoint(0, 0)), control(name)->size());
@@ -170,7 +176,7 @@ TEST_F(LcdWindow, ShowsADrawnCharacterEverywhere) {
 
   click("oChar(2)");
   EXPECT_EQ(slot(2), "|||off");
-  EXPECT_EQ(labels(), " $00, $00, $00, $00, $00, $00, $00, $00");
+  EXPECT_EQ(labels(), noLabels);
   EXPECT_EQ(grid() + preview(), blank + blank);
   EXPECT_EQ(picture("Char3"), withoutBlanks(arrow));
   click("oChar(3)");
@@ -194,7 +200,7 @@ TEST_F(LcdWindow, InvertsClearsAndDeletes) {
   click("cClear");
   EXPECT_EQ(slot(1), "|||off");
   EXPECT_EQ(picture("Char1") + grid() + preview(), blank + blank + blank);
-  EXPECT_EQ(labels(), " $00, $00, $00, $00, $00, $00, $00, $00");
+  EXPECT_EQ(labels(), noLabels);
   EXPECT_EQ(slot(0), " $1E, $1F, $1F, $1F, $1F, $1F, $1F, $1F|kept|Kept|on");
 
   click("oChar(0)");
@@ -205,8 +211,7 @@ TEST_F(LcdWindow, InvertsClearsAndDeletes) {
   draw(arrow);
   click("cDeletedAll");
   EXPECT_TRUE(isSelected("oChar(0)"));
-  for (int i = 0; i < 8; ++i)
-    EXPECT_EQ(slot(i) + picture("Char" + std::to_string(i)), "|||off" + blank);
+  EXPECT_TRUE(allSlotsAreBlank());
   EXPECT_EQ(copied(), "");
 }
 
@@ -221,14 +226,12 @@ TEST_F(LcdWindow, KeepsTheLabelsOfADeletedCharacter) {
   click(cell(0));
   EXPECT_EQ(slot(0), " $01, $0E, $1F, $04, $04, $04, $04, $00|||on");
   EXPECT_EQ(picture("Char0"), withoutBlanks("....#" + std::string(35, '.')));
-  EXPECT_EQ(copied(),
-            "    '/    '    Custom character definition/    '    ===========================/"
-            "LCDOUT $FE, $40, $01, $0E, $1F, $04, $04, $04, $04, $00 ' //");
+  EXPECT_EQ(copied(), heading + "LCDOUT $FE, $40, $01, $0E, $1F, $04, $04, $04, $04, $00 ' //");
   for (const char* way : {"cDeletedAll", "cClear"}) {
     draw(arrow);
     click("cDeleteChar");
     click(way);
-    EXPECT_EQ(labels(), " $00, $00, $00, $00, $00, $00, $00, $00") << way;
+    EXPECT_EQ(labels(), noLabels) << way;
   }
 }
 
@@ -284,10 +287,7 @@ TEST_F(LcdWindow, KeepsTheDataOfOtherSlotsWhileItIsClosed) {
   open("cCustomChar", "fCustomCharacter");
   EXPECT_EQ(shown("tCommandUS"), "2000");
   EXPECT_TRUE(isSelected("oChar(0)"));
-  for (int i = 0; i < 8; ++i)
-    EXPECT_EQ(slot(i) + picture("Char" + std::to_string(i)), "|||off" + blank) << i;
-  const std::string heading =
-      "    '/    '    Custom character definition/    '    ===========================/";
+  EXPECT_TRUE(allSlotsAreBlank());
   EXPECT_EQ(copied(), heading + "LCDOUT $FE, $50, $1F, $00, $00, $00, $00, $00, $00, $00 ' //");
   click(cell(4));
   EXPECT_EQ(copied(), heading +
@@ -360,31 +360,13 @@ class OnDisplayLcdWindow : public LcdWindow {};
 
 TEST_F(OnDisplayLcdWindow, CopiesItsTextForOtherPrograms) {
   draw("..... .#.#. .#.#. ..... #...# .###. ..... .....");
-  name(0, "smiley", "Smile");
-  click("oChar(2)");
-  draw(arrow);
-  click("cInclude");
+  name(0, "smiley ", "Smile");
   click("cCopyClip");
   EXPECT_EQ(clipboardSeenByAnotherProgram(),
             "    '\r\n"
-            "    '    LCD setup\r\n"
-            "    '    =========\r\n"
-            "DEFINE LCD_DREG PORTB     ' LCD data port\r\n"
-            "DEFINE LCD_DBIT 0         ' LCD data starting bit\r\n"
-            "DEFINE LCD_RSREG PORTB    ' LCD register select port\r\n"
-            "DEFINE LCD_RSBIT 4        ' LCD register select bit\r\n"
-            "DEFINE LCD_EREG PORTB     ' LCD enable port\r\n"
-            "DEFINE LCD_EBIT 5         ' LCD enable bit\r\n"
-            "DEFINE LCD_BITS 4         ' LCD data bus size\r\n"
-            "DEFINE LCD_LINES 2        ' Number lines on LCD\r\n"
-            "DEFINE LCD_COMMANDUS 2000 ' Command delay time in us\r\n"
-            "DEFINE LCD_DATAUS 50      ' Data delay time in us\r\n"
-            "\r\n"
-            "    '\r\n"
             "    '    Custom character definition\r\n"
             "    '    ===========================\r\n"
-            "LCDOUT $FE, $40, $00, $0A, $0A, $00, $11, $0E, $00, $00 ' smiley\r\n"
-            "LCDOUT $FE, $50, $04, $0E, $1F, $04, $04, $04, $04, $00 ' \r\n"
+            "LCDOUT $FE, $40, $00, $0A, $0A, $00, $11, $0E, $00, $00 ' smiley \r\n"
             "\r\n"
             "    '\r\n"
             "    '    Custom character constant(s)\r\n"
