@@ -85,7 +85,7 @@ void ResultField::blendIntoWindow() {
 }
 
 void alignInColumn(ResultField& field, std::string_view widest) {
-  field.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  useFixedPitch(field);
   field.setAlignment(Qt::AlignRight);
   fitWidth(field, widest);
   field.setFixedWidth(field.minimumWidth());

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
+#include <functional>
 #include <random>
 #include <set>
 #include <stdexcept>
@@ -23,16 +23,16 @@ struct Drawn {
 
 class SimpleEditor {
 public:
-  std::map<int, Drawn> slots;
+  std::vector<Drawn> slots = std::vector<Drawn>(8);
   std::vector<std::string> labels;
-  int current = 0;
+  std::size_t current = 0;
   std::string lead, follow;
 
   SimpleEditor() { open(); }
 
   void open() {
-    std::map<int, Drawn> fresh;
-    for (int i = 0; i < 8; ++i) fresh[i].data = i == current ? "" : slots[i].data;
+    std::vector<Drawn> fresh(8);
+    for (std::size_t i = 0; i < 8; ++i) fresh[i].data = i == current ? "" : slots[i].data;
     *this = SimpleEditor(fresh);
   }
   void touch(int row, int column) {
@@ -40,7 +40,7 @@ public:
     relabel(row);
     rebuild();
   }
-  void choose(int slot) {
+  void choose(std::size_t slot) {
     current = slot;
     for (int row = 0; row < 8; ++row) relabel(row);
     rebuild();
@@ -65,7 +65,7 @@ public:
   void removeAll() { *this = SimpleEditor(lead, follow); }
 
 private:
-  explicit SimpleEditor(std::map<int, Drawn> fresh)
+  explicit SimpleEditor(std::vector<Drawn> fresh)
       : slots(std::move(fresh)), labels(8, "$00"), lead("AB"), follow("CD") {}
   SimpleEditor(std::string left, std::string right)
       : labels(8, "$00"), lead(std::move(left)), follow(std::move(right)) {}
@@ -119,12 +119,12 @@ std::string wholeState(const CharacterSet& set) {
   return text;
 }
 
-std::string wholeState(SimpleEditor editor) {
-  std::string text = pictureText(editor.slots[editor.current].dots) +
+std::string wholeState(const SimpleEditor& editor) {
+  std::string text = pictureText(editor.slots.at(editor.current).dots) +
                      std::to_string(editor.current) + editor.lead + editor.follow;
   for (const std::string& label : editor.labels) text += label;
-  for (int i = 0; i < 8; ++i) {
-    const Drawn& slot = editor.slots[i];
+  for (std::size_t i = 0; i < 8; ++i) {
+    const Drawn& slot = editor.slots.at(i);
     text += "\n" + pictureText(slot.dots) + "|" + slot.data + "|" + slot.shown + "|" +
             slot.description + "|" + slot.alias + (slot.editable ? "|on" : "|off");
   }
@@ -133,65 +133,60 @@ std::string wholeState(SimpleEditor editor) {
 
 TEST(CharacterSet, AgreesWithASimplerStatementOfItsRules) {
   std::mt19937 random(20);  // NOLINT: the same operations in every run
-  const auto below = [&random](unsigned n) { return static_cast<int>(random() % n); };
+  const auto below = [&random](unsigned n) { return static_cast<std::size_t>(random() % n); };
   CharacterSet set = OpenEditor({});
   SimpleEditor simple;
-  std::map<std::string, int> seen;
-  int row = 0;
-  int column = 0;
-  for (int step = 0; step < 100'000; ++step) {
-    const int kind = below(100);
-    std::string done;
-    const auto slot = static_cast<std::size_t>(simple.current);
-    if (kind < 60) {
-      // Half of the toggles take the pixel before once more, so that slots often become blank; the
-      // top row is taken often, so that inverting blanks slots on its way.
-      if (below(2) == 0) row = below(3) == 0 ? 0 : below(8), column = below(5);
-      done = "toggle " + std::to_string(row) + " " + std::to_string(column);
-      set = TogglePixel(std::move(set), static_cast<std::size_t>(row * 5 + 4 - column));
-      simple.touch(row, column);
-    } else if (kind < 72) {
-      const int chosen = below(8);
-      done = "select " + std::to_string(chosen);
-      set = SelectSlot(std::move(set), static_cast<std::size_t>(chosen));
-      simple.choose(chosen);
-    } else if (kind < 78) {
-      done = "invert";
-      set = InvertAll(std::move(set));
-      simple.invert();
-    } else if (kind < 81) {
-      done = "clear";
-      set = Clear(std::move(set));
-      simple.clear();
-    } else if (kind < 87) {
-      done = "delete";
-      set = DeleteSelectedCharacter(std::move(set));
-      simple.remove();
-    } else if (kind < 88) {
-      done = "remove all";
-      set = DeleteAll(std::move(set));
-      simple.removeAll();
-    } else if (kind < 90) {
-      done = "open anew";
-      set = OpenEditor(std::move(set));
-      simple.open();
-    } else if (kind < 92) {
-      done = "lead and follow";
-      simple.lead = std::to_string(below(100));
-      simple.follow = std::to_string(below(100));
-      set = SetFollowText(SetLeadText(std::move(set), simple.lead), simple.follow);
-    } else if (simple.slots[simple.current].editable) {
-      done = "name";
-      Drawn& drawn = simple.slots[simple.current];
-      set.shown.slotTable[slot].description = drawn.description = "text " + std::to_string(step);
-      set.shown.slotTable[slot].constantAlias = drawn.alias = "Alias" + std::to_string(step);
-    }
-    ++seen[done.substr(0, done.find(' '))];
-    ASSERT_EQ(wholeState(set), wholeState(simple)) << "after step " << step << ": " << done;
+  std::size_t row = 0;
+  std::size_t column = 0;
+  int step = 0;
+  struct Operation {
+    const char* name;
+    unsigned share;
+    std::function<void()> run;
+    int times = 0;
+  };
+  std::vector<Operation> operations{
+      {"toggle", 60,
+       [&] {
+         // Half of the toggles take the pixel before once more, so that slots often become blank;
+         // the top row is taken often, so that inverting blanks slots on its way.
+         if (below(2) == 0) row = below(3) == 0 ? 0 : below(8), column = below(5);
+         set = TogglePixel(std::move(set), row * 5 + 4 - column);
+         simple.touch(static_cast<int>(row), static_cast<int>(column));
+       }},
+      {"select", 12,
+       [&] {
+         const std::size_t chosen = below(8);
+         set = SelectSlot(std::move(set), chosen);
+         simple.choose(chosen);
+       }},
+      {"invert", 6, [&] { set = InvertAll(std::move(set)), simple.invert(); }},
+      {"clear", 3, [&] { set = Clear(std::move(set)), simple.clear(); }},
+      {"delete", 6, [&] { set = DeleteSelectedCharacter(std::move(set)), simple.remove(); }},
+      {"delete all", 1, [&] { set = DeleteAll(std::move(set)), simple.removeAll(); }},
+      {"open anew", 2, [&] { set = OpenEditor(std::move(set)), simple.open(); }},
+      {"lead and follow", 2,
+       [&] {
+         simple.lead = std::to_string(below(100));
+         simple.follow = std::to_string(below(100));
+         set = SetFollowText(SetLeadText(std::move(set), simple.lead), simple.follow);
+       }},
+      {"name", 8, [&] {
+         Drawn& drawn = simple.slots[simple.current];
+         CharacterSlot& slot = set.shown.slotTable[simple.current];
+         if (!drawn.editable) return;
+         slot.description = drawn.description = "text " + std::to_string(step);
+         slot.constantAlias = drawn.alias = "Alias" + std::to_string(step);
+       }}};
+  for (; step < 100'000; ++step) {
+    std::size_t dice = below(100);
+    auto operation = operations.begin();
+    while (dice >= operation->share) dice -= operation++->share;
+    operation->run();
+    ++operation->times;
+    ASSERT_EQ(wholeState(set), wholeState(simple)) << "step " << step << ": " << operation->name;
   }
-  for (const char* kind :
-       {"toggle", "select", "invert", "clear", "delete", "remove", "open", "lead", "name"})
-    EXPECT_GT(seen[kind], 500) << kind;
+  for (const Operation& operation : operations) EXPECT_GT(operation.times, 500) << operation.name;
 }
 
 TEST(CharacterSet, ShowsTheRowsOfAPixelAsHexadecimalBytes) {
@@ -202,32 +197,10 @@ TEST(CharacterSet, ShowsTheRowsOfAPixelAsHexadecimalBytes) {
   EXPECT_TRUE(left.shown.slotTable[0].enabled);
   EXPECT_EQ(TogglePixel(blank, 0).shown.lLine[0], "$01");
   EXPECT_EQ(TogglePixel(blank, 38).shown.lLine[7], "$08");
-  EXPECT_EQ(InvertAll(blank).shown.slotTable[0].dataDisplay, " $1F, $1F, $1F, $1F, $1F, $1F, $1F, $1F");
+  EXPECT_EQ(InvertAll(blank).shown.slotTable[0].dataDisplay,
+            " $1F, $1F, $1F, $1F, $1F, $1F, $1F, $1F");
   EXPECT_EQ(CgramCommand[0], "LCDOUT $FE, $40");
   EXPECT_EQ(CgramCommand[7], "LCDOUT $FE, $78");
-}
-
-TEST(CharacterSet, LeavesTheRowLabelsOfADeletedCharacter) {
-  CharacterSet set = DeleteSelectedCharacter(InvertAll(OpenEditor({})));
-  EXPECT_EQ(set.shown.lLine[7], "$1F");
-  set = TogglePixel(std::move(set), 2);
-  EXPECT_EQ(set.shown.slotTable[0].dataDisplay, " $04, $1F, $1F, $1F, $1F, $1F, $1F, $1F");
-  EXPECT_EQ(set.shown.slotTable[0].picture.count(), 1U);
-  EXPECT_EQ(SelectSlot(SelectSlot(set, 1), 0).shown.slotTable[0].dataDisplay,
-            " $04, $00, $00, $00, $00, $00, $00, $00");
-  EXPECT_EQ(Clear(set).shown.lLine[7], "$00");
-}
-
-TEST(CharacterSet, KeepsTheDataOfOtherSlotsWhenTheWindowIsOpenedAnew) {
-  CharacterSet set = TogglePixel(SelectSlot(TogglePixel(OpenEditor({}), 4), 3), 0);
-  set.shown.slotTable[0].description = "lost";
-  set = OpenEditor(std::move(set));
-  EXPECT_EQ(set.kept.CharacterData[0], ", $10, $00, $00, $00, $00, $00, $00, $00");
-  EXPECT_EQ(set.kept.CharacterData[3], "");
-  EXPECT_EQ(set.kept.SelectedSlot, 0);
-  EXPECT_EQ(set.shown.slotTable[0].dataDisplay + set.shown.slotTable[0].description, "");
-  EXPECT_TRUE(set.shown.slotTable[0].picture.none());
-  EXPECT_EQ(SelectSlot(std::move(set), 0).kept.CharacterData[0], "");
 }
 
 TEST(CharacterSet, RefusesPixelsAndSlotsThatDoNotExist) {
