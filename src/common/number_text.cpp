@@ -77,70 +77,53 @@ void roundToPlaces(DecimalForm& form, int places) {
   increment(form);
 }
 
-// What a pattern asks for, by the counts that the digits depend on.
-struct PatternShape {
-  int integerPositions = 0;
-  int integerZeros = 0;
-  int fractionPositions = 0;
-  int fractionZeros = 0;
-  int copied = 0;  // characters that are no digit positions
+// The half of a pattern before its point, or the half from the point on.
+struct PatternHalf {
+  std::string_view text;
+  int positions = 0;  // digit positions, "0" and "#"
+  int zeros = 0;      // those among them that are always shown
 };
 
-PatternShape shapeOf(std::string_view pattern) {
-  PatternShape shape;
-  bool point = false;
-  for (const char c : pattern) {
-    if (c == '.') point = true;
-    if (c != '0' && c != '#') {
-      ++shape.copied;
-      continue;
-    }
-    ++(point ? shape.fractionPositions : shape.integerPositions);
-    if (c == '0') ++(point ? shape.fractionZeros : shape.integerZeros);
+bool isPosition(char c) {
+  return c == '0' || c == '#';
+}
+
+PatternHalf halfOf(std::string_view text) {
+  PatternHalf half{.text = text};
+  for (const char c : text) {
+    if (isPosition(c)) ++half.positions;
+    if (c == '0') ++half.zeros;
   }
-  return shape;
+  return half;
 }
 
-int integerDigitsOf(const DecimalForm& form, const PatternShape& shape) {
-  return std::max(form.zero() ? 0 : form.point, shape.integerZeros);
-}
-
-int fractionDigitsOf(const DecimalForm& form, const PatternShape& shape) {
-  return std::max(form.zero() ? 0 : form.count - form.point, shape.fractionZeros);
-}
-
-// Writes the pattern character by character, each digit position taking the digits that belong to
-// it: the first integer position also those to its left.
-std::string write(const DecimalForm& form, const PatternShape& shape, std::string_view pattern,
-                  std::string_view unit) {
-  const int integerDigits = integerDigitsOf(form, shape);
-  const int fractionDigits = fractionDigitsOf(form, shape);
-  const bool negative = form.negative && !form.zero();
-  std::string text;
-  text.reserve(static_cast<std::size_t>(integerDigits + fractionDigits + shape.copied + negative) +
-               unit.size());
-  if (negative) text.push_back('-');
-  int place = integerDigits - 1;
+// Appends the half before the point, each position taking its digit of the `digits` to be written,
+// the first position also those to its left.
+void writeInteger(std::string& text, const DecimalForm& form, const PatternHalf& half, int digits) {
+  int place = digits - 1;
   const auto writeDownTo = [&](int last) {
     for (; place >= last; --place) text.push_back(form.digitAt(place));
   };
-  int positionsLeft = shape.integerPositions;
-  int fractionPlace = 0;
-  bool point = false;
-  for (const char c : pattern) {
-    const bool position = c == '0' || c == '#';
-    if (!position) {
-      if (c == '.' && !point) writeDownTo(0);
-      if (c == '.') point = true;
-      text.push_back(c);
-    } else if (point) {
-      if (fractionPlace++ < fractionDigits) text.push_back(form.digitAt(-fractionPlace));
-    } else {
+  int positionsLeft = half.positions;
+  for (const char c : half.text) {
+    if (isPosition(c))
       writeDownTo(--positionsLeft);
-    }
+    else
+      text.push_back(c);
   }
-  text.append(unit);
-  return text;
+  writeDownTo(0);
+}
+
+// Appends the half from the point on, whose first `digits` positions take a digit each.
+void writeFraction(std::string& text, const DecimalForm& form, const PatternHalf& half,
+                   int digits) {
+  int place = 0;
+  for (const char c : half.text) {
+    if (!isPosition(c))
+      text.push_back(c);
+    else if (place-- > -digits)
+      text.push_back(form.digitAt(place));
+  }
 }
 
 }  // namespace
@@ -152,10 +135,24 @@ std::string format(double value, std::string_view pattern) {
 std::string formatWithUnit(double value, std::string_view pattern, std::string_view unit) {
   if (pattern.find('%') != std::string_view::npos) value *= 100;
   if (!std::isfinite(value)) return {};
-  const PatternShape shape = shapeOf(pattern);
+
+  const std::size_t point = std::min(pattern.find('.'), pattern.size());
+  const PatternHalf integer = halfOf(pattern.substr(0, point));
+  const PatternHalf fraction = halfOf(pattern.substr(point));
   DecimalForm form = decimalForm(value);
-  roundToPlaces(form, shape.fractionPositions);
-  return write(form, shape, pattern, unit);
+  roundToPlaces(form, fraction.positions);
+  const int integerDigits = std::max(form.zero() ? 0 : form.point, integer.zeros);
+  const int fractionDigits = std::max(form.zero() ? 0 : form.count - form.point, fraction.zeros);
+  const bool negative = form.negative && !form.zero();
+  const int digitsAdded = integerDigits + fractionDigits - integer.positions - fraction.positions;
+
+  std::string text;
+  text.reserve(pattern.size() + unit.size() + static_cast<std::size_t>(digitsAdded + negative));
+  if (negative) text.push_back('-');
+  writeInteger(text, form, integer, integerDigits);
+  writeFraction(text, form, fraction, fractionDigits);
+  text.append(unit);
+  return text;
 }
 
 std::string numberText(double value) {
