@@ -6,13 +6,12 @@
 #include <QHBoxLayout>
 
 #include <cstddef>
-#include <limits>
 
 namespace tarnwick::forms {
 namespace {
 
 constexpr std::array<std::string_view, 2> brg16Locations{"BAUDCON.3", "BAUDCTL.3"};
-constexpr int unlimited = std::numeric_limits<std::int16_t>::max();
+constexpr int unlimited = ui::EntryFieldTraits{}.maxLength;
 
 }  // namespace
 

@@ -4,6 +4,7 @@
 #include "common/number_text.h"
 #include "ui/desktop.h"
 #include "ui/layout.h"
+#include "ui/twips.h"
 
 #include <algorithm>
 
@@ -19,14 +20,13 @@ constexpr int none = 1;
 constexpr int even = 2;
 
 // Horizontal places, in pixels from the left edge of the window.
-constexpr int twipsPerPixel = 15;
-constexpr int groupsLeft = 120 / twipsPerPixel;
+constexpr int groupsLeft = ui::fromTwips(120);
 struct ModePlace {
   int label;
   int field;
 };
-constexpr ModePlace alone{1680 / twipsPerPixel, 2400 / twipsPerPixel};
-constexpr ModePlace besideButton{480 / twipsPerPixel, 1200 / twipsPerPixel};
+constexpr ModePlace alone{ui::fromTwips(1680), ui::fromTwips(2400)};
+constexpr ModePlace besideButton{ui::fromTwips(480), ui::fromTwips(1200)};
 
 }  // namespace
 

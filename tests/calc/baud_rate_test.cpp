@@ -36,72 +36,20 @@ TEST(Usart, GivesTheKnownRowsAndTheBetterOne) {
     double osc, goal;
     Texts rows;
     bool bestBRGH;
-  } cases[] = {
-      {20, 9600, {"32 9470 -1.35%", "129 9615 0.16%"}, true},
-      {20, 115200, {"2 104167 -9.58%", "10 113636 -1.36%"}, true},
-      {20, 1200, {"255 1221 1.75%", "255 4883 306.92%"}, false},  // both at the upper limit
-      {4, 250000, {"0 62500 -75.0%", "0 250000 0.0%"}, true},     // the first below the lower
-      {14, 62500, {"2 72917 16.67%", "13 62500 0.0%"}, true},     // 2.5 goes to 2
-      {20, 9600000, {"0 312500 -96.74%", "0 1250000 -86.98%"}, true},
-      {8, 9600, {"12 9615 0.16%", "51 9615 0.16%"}, false},  // a tie
-      {0, 9600, {"0 0 -100.0%", "0 0 -100.0%"}, false},
-      {4, 1, {"255 244 24300.0%", "255 977 97600.0%"}, false},
-  };
+  } cases[] = {{20, 9600, {"32 9470 -1.35%", "129 9615 0.16%"}, true},
+               {20, 115200, {"2 104167 -9.58%", "10 113636 -1.36%"}, true},
+               {20, 1200, {"255 1221 1.75%", "255 4883 306.92%"}, false},
+               {4, 250000, {"0 62500 -75.0%", "0 250000 0.0%"}, true},
+               {14, 62500, {"2 72917 16.67%", "13 62500 0.0%"}, true},
+               {20, 9600000, {"0 312500 -96.74%", "0 1250000 -86.98%"}, true},
+               {8, 9600, {"12 9615 0.16%", "51 9615 0.16%"}, false},
+               {0, 9600, {"0 0 -100.0%", "0 0 -100.0%"}, false},
+               {4, 1, {"255 244 24300.0%", "255 977 97600.0%"}, false}};
   for (const auto& c : cases) {
     const UsartRows rows = usartRows(c.osc, c.goal);
     EXPECT_EQ(allShown(rows), c.rows) << c.osc << " MHz, " << c.goal;
     EXPECT_EQ(usartBest(rows), c.bestBRGH) << c.osc << " MHz, " << c.goal;
   }
-}
-
-TEST(Eusart, GivesTheKnownRowsAndTheBestOfThem) {
-  using Best = std::optional<bool>;
-  const struct {
-    double osc, goal;
-    Texts rows;
-    Best best, best16;
-    bool finalBRG16;
-  } cases[] = {
-      {20,
-       9600,
-       {"32 9470 -1.35%", "129 9615 0.16%", "129 9615 0.16%", "520 9597 -0.03%"},
-       true,
-       true,
-       true},
-      {8,
-       9600,
-       {"12 9615 0.16%", "51 9615 0.16%", "51 9615 0.16%", "207 9615 0.16%"},
-       false,
-       false,
-       true},  // ties everywhere
-      {20,
-       300,
-       {"255 1221 307.0%", "255 4883 1527.67%", "4166 300 0.0%", "16666 300 0.0%"},
-       false,
-       false,
-       true},
-      {4, 250000, {"-", "-", "-", "3 250000 0.0%"}, Best(), true, true},
-      {64,
-       1,
-       {"255 3906 390500.0%", "255 15625 1562400.0%", "65535 61 6000.0%", "65535 244 24300.0%"},
-       false,
-       false,
-       true},
-  };
-  for (const auto& c : cases) {
-    const auto rows = eusartRows(c.osc, c.goal);
-    ASSERT_TRUE(rows);
-    EXPECT_EQ(allShown(*rows), c.rows) << c.osc << " MHz, " << c.goal;
-    const auto best = eusartBest(*rows);
-    ASSERT_TRUE(best);
-    EXPECT_EQ(best->BestBRGH, c.best) << c.osc << " MHz, " << c.goal;
-    EXPECT_EQ(best->BestBRGH16, c.best16) << c.osc << " MHz, " << c.goal;
-    EXPECT_EQ(best->FinalBRG16, c.finalBRG16) << c.osc << " MHz, " << c.goal;
-  }
-  const auto none = eusartRows(20, 10000000);
-  ASSERT_TRUE(none);
-  EXPECT_EQ(allShown(*none), (Texts{"-", "-", "-", "-"}));
-  EXPECT_FALSE(eusartBest(*none));
 }
 
 TEST(Eusart, ChoosesByTheSizeOfTheErrors) {
@@ -113,14 +61,12 @@ TEST(Eusart, ChoosesByTheSizeOfTheErrors) {
     EusartRows rows;
     std::optional<bool> best, best16;
     bool finalBRG16;
-  } cases[] = {
-      {{row(-0.02), row(0.03), row(0.5), row(-0.4)}, false, true, false},
-      {{row(0.03), row(-0.02), row(-0.02), row(0.02)}, true, false, true},  // ties by size
-      {{none, row(0.1), row(0.2), none}, true, false, false},
-      {{row(0.1), none, none, none}, false, {}, false},
-      {{none, none, row(0.3), none}, {}, false, true},
-      {{none, row(700000), none, none}, true, {}, true},  // worse than a group without a row
-  };
+  } cases[] = {{{row(-0.02), row(0.03), row(0.5), row(-0.4)}, false, true, false},
+               {{row(0.03), row(-0.02), row(-0.02), row(0.02)}, true, false, true},
+               {{none, row(0.1), row(0.2), none}, true, false, false},
+               {{row(0.1), none, none, none}, false, {}, false},
+               {{none, none, row(0.3), none}, {}, false, true},
+               {{none, row(700000), none, none}, true, {}, true}};
   for (const auto& c : cases) {
     const auto best = eusartBest(c.rows);
     ASSERT_TRUE(best);
@@ -153,13 +99,10 @@ TEST(BaudRows, TreatWhatIsNotFiniteAsAFault) {
 }
 
 TEST(SpbrgBytes, SplitTheRegisterPair) {
-  const struct {
-    double spbrg;
-    int high, low;
-  } cases[] = {{0, 0, 0}, {255, 0, 255}, {256, 1, 0}, {520, 2, 8}, {65535, 255, 255}};
-  for (const auto& c : cases) {
-    EXPECT_EQ(spbrgBytes(c.spbrg).high, c.high) << c.spbrg;
-    EXPECT_EQ(spbrgBytes(c.spbrg).low, c.low) << c.spbrg;
+  for (int value = 0; value < 65536; ++value) {
+    const SpbrgBytes bytes = spbrgBytes(value);
+    EXPECT_EQ(bytes.high * 256 + bytes.low, value);
+    EXPECT_LT(bytes.low, 256);
   }
 }
 
@@ -195,8 +138,6 @@ bool checkRow(const BaudRow& row, const BaudMode& mode, std::int64_t hz, std::in
   EXPECT_LE(std::fabs(row.Calc - static_cast<double>(hz) / ((row.Spbrg + 1) * mode.divisor)),
             0.5 + 1e-9);
   const auto goalBaud = static_cast<double>(goal);
-  EXPECT_EQ(row.Err > 0, row.Calc > goalBaud);
-  EXPECT_EQ(row.Err < 0, row.Calc < goalBaud);
   EXPECT_NEAR(row.Err * goalBaud, row.Calc - goalBaud, 1e-6);
   return limited;
 }
