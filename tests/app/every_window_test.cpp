@@ -34,7 +34,7 @@ bool isControl(const QWidget* widget) {
   return qobject_cast<const QLineEdit*>(widget) != nullptr ||
          qobject_cast<const QPlainTextEdit*>(widget) != nullptr ||
          qobject_cast<const QAbstractButton*>(widget) != nullptr ||
-         qobject_cast<const QAbstractSlider*>(widget) != nullptr ||
+         qobject_cast<const QSlider*>(widget) != nullptr ||
          qobject_cast<const QComboBox*>(widget) != nullptr;
 }
 
