@@ -86,11 +86,9 @@ TEST_F(PwmWindow, WarnsOnceOfAFastOscillator) {
   for (const Qt::Key leaving : {Qt::Key_Return, Qt::Key_Tab}) {
     enter("tOSC", "100");
     press(leaving);
-    EXPECT_EQ(messageShown(), "Oscillator speed to high: As now maximum allowed is 64 MHz");
     confirmMessage();
     EXPECT_EQ(message(), nullptr);
-    EXPECT_EQ(focused(), "tFreq");
-    EXPECT_EQ(texts({"tOSC", "tMinFreq"}), "64|3.906 KHz|");
+    EXPECT_EQ(focused() + texts({"tOSC", "tMinFreq"}), "tFreq64|3.906 KHz|");
   }
 }
 
@@ -105,9 +103,7 @@ TEST_F(PwmWindow, LetsTheUserLeaveAFrequencyThatMatchesNothing) {
     click(target);
     EXPECT_TRUE(isEmpty());
     EXPECT_EQ(focused(), "tFreq");
-    enter("tFreq", "2");
-    press(Qt::Key_Return);
-    EXPECT_FALSE(isEmpty());
+    enterAndConfirm("tFreq", "2");
     enter("tFreq", "3");
     click(target);
     EXPECT_EQ(focused(), target);
@@ -116,32 +112,23 @@ TEST_F(PwmWindow, LetsTheUserLeaveAFrequencyThatMatchesNothing) {
 }
 
 TEST_F(PwmWindow, CorrectsTheFrequency) {
-  for (const char* typed : {"0", "", ".", "0.000"}) {
-    enter("tFreq", typed);
+  for (const char* text : {"0", "", ".", "-7"}) {
+    paste("tFreq", text);
     press(Qt::Key_Return);
-    EXPECT_EQ(shown("tFreq"), "1") << typed;
+    EXPECT_EQ(texts({"tFreq", "tPR2"}), "1|  249\r\n  62\r\n|") << text;
   }
-  paste("tFreq", "-7");
-  press(Qt::Key_Tab);
-  EXPECT_EQ(texts({"tFreq", "tPR2"}), "1|  249\r\n  62\r\n|");
 }
 
 TEST_F(PwmWindow, RenewsThePointsWithEveryRecalculation) {
-  enter("tFreq", "1.");
-  press(Qt::Key_Backspace);
-  type(".5.");
-  EXPECT_EQ(shown("tFreq"), "15");
-  click("oHzKhz(1)");  // leaving the frequency validates it
-  enter("tFreq", "1.5");
-  EXPECT_EQ(shown("tFreq"), "1.5");
-  press(Qt::Key_Return);
-  enter("tOSC", "3.");
-  press(Qt::Key_Backspace);
-  type(".6.");
-  EXPECT_EQ(shown("tOSC"), "36");
-  press(Qt::Key_Return);
-  enter("tOSC", "3.6");
-  EXPECT_EQ(shown("tOSC"), "3.6");
+  for (const char* field : {"tFreq", "tOSC"}) {
+    enter(field, "1.");
+    press(Qt::Key_Backspace);
+    type(".5.");
+    EXPECT_EQ(shown(field), "15");
+    click("oHzKhz(1)");  // selected already: leaving the field alone renews
+    enter(field, "1.5");
+    EXPECT_EQ(shown(field), "1.5");
+  }
 }
 
 TEST_F(PwmWindow, KeepsDutyFieldSliderAndColumnsInStep) {
@@ -177,18 +164,6 @@ TEST_F(PwmWindow, KeepsDutyFieldSliderAndColumnsInStep) {
   paste("tDuty", "-5");
   press(Qt::Key_Return);
   EXPECT_EQ(duty(), none);
-}
-
-TEST_F(PwmWindow, FollowsADragOfItsSlider) {
-  auto* slider = control<QSlider>("scrollduty");
-  const auto at = [&](int x) { return slider->mapTo(current(), QPoint(x, slider->height() / 2)); };
-  QWindow* target = current()->windowHandle();
-  QTest::mousePress(target, Qt::LeftButton, {}, at(slider->width() / 2));
-  QTest::mouseMove(target, at(slider->width() - 2));
-  EXPECT_EQ(duty(), "100|1000\r\n250\r\n|100.0 %\r\n99.21 %\r\n|");  // in the middle of the drag
-  QTest::mouseMove(target, at(1));
-  QTest::mouseRelease(target, Qt::LeftButton, {}, at(1));
-  EXPECT_EQ(duty(), "0|0\r\n0\r\n|.0 %\r\n.0 %\r\n|");
 }
 
 TEST_F(PwmWindow, LeavesTheDutyWithoutAnOscillator) {
