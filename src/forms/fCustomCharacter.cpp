@@ -190,12 +190,14 @@ void fCustomCharacter::layOut() {
   window->addWidget(layOutSettings(), 0, 0, 3, 1);
   window->addWidget(layOutSlots(), 3, 0, 2, 1, Qt::AlignTop);
   Image2 = new ui::LcdPanel(this);
-  window->addWidget(ui::label(this, "lPreview", "Preview"), 0, 1, 1, 2, Qt::AlignHCenter);
+  window->addWidget(ui::label(this, "lPreview", "Preview"), 0, 1, 1, 2,
+                    Qt::AlignHCenter | Qt::AlignBottom);
   window->addWidget(Image2, 1, 1, 1, 2, Qt::AlignHCenter);
   window->addWidget(layOutLcdText(), 2, 1, 1, 2);
   window->addWidget(layOutPixels(), 3, 1, Qt::AlignCenter);
   window->addWidget(layOutGridButtons(), 3, 2);
   window->addWidget(layOutResults(), 4, 1, 1, 2);
+  window->setRowStretch(0, 1);
   ui::fixToContent(this);
 }
 
