@@ -24,15 +24,14 @@ struct Entry {
   std::array<const char*, 2> texts;
 };
 
-constexpr std::array entries{
-    Entry{"fTimer", "tOSC", {"4", "20"}},
-    Entry{"fTimerHelper", "tDelay", {"240", "250"}},
-    Entry{"fUSART", "BaudRate", {"9600", "19200"}},
-    Entry{"fEUSART", "BaudRate", {"9600", "19200"}},
-    Entry{"fSerinSerout2", "tBaud", {"9600", "2400"}},
-    Entry{"fPWM", "tFreq", {"5", "5.1"}},
-    Entry{"fMinADTime", "tImpedance", {"10", "2.5"}},
-    Entry{"fComparator", "tVdd", {"5", "3"}}};
+constexpr std::array entries{Entry{"fTimer", "tOSC", {"4", "20"}},
+                             Entry{"fTimerHelper", "tDelay", {"240", "250"}},
+                             Entry{"fUSART", "BaudRate", {"9600", "19200"}},
+                             Entry{"fEUSART", "BaudRate", {"9600", "19200"}},
+                             Entry{"fSerinSerout2", "tBaud", {"9600", "2400"}},
+                             Entry{"fPWM", "tFreq", {"5", "5.1"}},
+                             Entry{"fMinADTime", "tImpedance", {"10", "2.5"}},
+                             Entry{"fComparator", "tVdd", {"5", "3"}}};
 constexpr int presses = 2001;
 
 double medianMicroseconds(QWidget& window, const Entry& entry) {
