@@ -22,23 +22,16 @@ protected:
   std::string results() {
     return shown("tADClock") + " | " + shown("tMinTad") + " | " + shown("tMinTaq");
   }
-  std::string copied() {
-    click("cCopyClip");
-    return ui::fromQt(QGuiApplication::clipboard()->text());
-  }
 };
 using OnDisplayMinADTime = MinADTimeWindow;
 
 TEST_F(MinADTimeWindow, OpensWithItsDefaults) {
-  EXPECT_EQ(ui::fromQt(current()->windowTitle()), "A/D Calc");
   EXPECT_EQ(shown("tOSC") + " " + shown("tImpedance"), "20 10");
   EXPECT_TRUE(isSelected("cKohm") && isSelected("oADCBits(1)"));
-  EXPECT_EQ(control<QAbstractButton>("oADCBits(0)")->text(), "8 Bits");
   EXPECT_EQ(control<QAbstractButton>("oADCBits(1)")->text(), "10 Bits");
   EXPECT_EQ(shown("tlabel(0)"), "A/D conversion clock (ADCS)  :");
   EXPECT_EQ(shown("tlabel(1)"), "A/D acquistion time (ACQT) :");
   EXPECT_EQ(results(), atLoad);
-  EXPECT_EQ(copied(), defines10);
 }
 
 TEST_F(OnDisplayMinADTime, HandsItsDefinesToOtherPrograms) {
@@ -46,7 +39,7 @@ TEST_F(OnDisplayMinADTime, HandsItsDefinesToOtherPrograms) {
   EXPECT_EQ(clipboardSeenByAnotherProgram(), defines10);
 }
 
-TEST_F(MinADTimeWindow, AnswersTypedQuestions) {
+TEST_F(MinADTimeWindow, AnswersEveryQuestion) {
   struct Case {
     const char* oscillator;
     const char* kOhm;
@@ -57,17 +50,18 @@ TEST_F(MinADTimeWindow, AnswersTypedQuestions) {
                         Case{"1", "1", "Fosc/2 (ADCS=000) | 0 Tad | 3 uSec"},
                         Case{"40", "2.5", "Fosc/64 (ADCS=110) | 4 Tad | 4 uSec"},
                         Case{"41", "2.5", "Frc (ADCS=111) | 0 Tad | 4 uSec"},
-                        Case{"20", "1000", "Fosc/32 (ADCS=010) | 64 Tad | 842 uSec"}}) {
-    enterAndConfirm("tOSC", c.oscillator);
+                        Case{"20", "1000", "Fosc/32 (ADCS=010) | 64 Tad | 842 uSec"},
+                        Case{"20", "-5", "Fosc/32 (ADCS=010) | 0 Tad | -2 uSec"},
+                        Case{"20", "1E999", "Fosc/32 (ADCS=010) | 64 Tad | "},
+                        Case{"-1E999", "&H0A Ohm", "Fosc/2 (ADCS=000) | 0 Tad | 11 uSec"}}) {
+    paste("tOSC", c.oscillator);
+    press(Qt::Key_Return);
     EXPECT_EQ(focused(), "tImpedance");
-    enterAndConfirm("tImpedance", c.kOhm);
+    paste("tImpedance", c.kOhm);
+    press(Qt::Key_Enter);
     EXPECT_EQ(focused(), "cKohm");
     EXPECT_EQ(results(), c.results) << c.oscillator << " MHz, " << c.kOhm << " K Ohm";
   }
-  EXPECT_EQ(copied(),
-            "DEFINE ADC_BITS 10      ' ADCIN resolution  (Bits)\r\n"
-            "DEFINE ADC_CLOCK 2      ' ADC clock source  (Fosc/32)\r\n"
-            "DEFINE ADC_SAMPLEUS 842 ' ADC sampling time (uSec)");
 }
 
 TEST_F(MinADTimeWindow, CorrectsWhatIsTypedAndLeft) {
@@ -76,28 +70,21 @@ TEST_F(MinADTimeWindow, CorrectsWhatIsTypedAndLeft) {
     const char* typed;
     const char* shown;
   };
-  for (const Case& c :
-       {Case{"tImpedance", "", "1"}, Case{"tImpedance", "0.0", "1"}, Case{"tImpedance", ".", "1"},
-        Case{"tImpedance", "2.50", "2.50"}, Case{"tOSC", "", "1"}, Case{"tOSC", "0", "1"},
-        Case{"tOSC", "4.000", "4"}, Case{"tOSC", "64", "64"}}) {
-    for (const Qt::Key leaving : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Tab, Qt::Key_Backtab}) {
+  for (const Case& c : {Case{"tImpedance", "", "1"}, Case{"tImpedance", "0.0", "1"},
+                        Case{"tImpedance", "2.50", "2.50"}, Case{"tImpedance", ".-.7", ".7"},
+                        Case{"tOSC", ".", "1"}, Case{"tOSC", "4.00.0", "4"}}) {
+    for (const Qt::Key leaving : {Qt::Key_Return, Qt::Key_Tab, Qt::Key_Backtab}) {
       enter(c.field, c.typed);
       press(leaving);
       EXPECT_EQ(shown(c.field), c.shown) << c.field << " " << c.typed;
-      EXPECT_EQ(messageShown(), "");
     }
   }
-}
-
-TEST_F(MinADTimeWindow, WarnsOfTooFastAnOscillatorAndGoesOn) {
   for (const Qt::Key leaving : {Qt::Key_Return, Qt::Key_Tab}) {
     enter("tOSC", "100");
     press(leaving);
     EXPECT_EQ(messageShown(), "Oscillator speed to high: As now maximum allowed is 64 MHz");
     confirmMessage();
-    EXPECT_EQ(messageShown(), "");
-    EXPECT_EQ(shown("tOSC"), "64");
-    EXPECT_EQ(focused(), "tImpedance");
+    EXPECT_EQ(messageShown() + shown("tOSC") + focused(), "64tImpedance");
     EXPECT_EQ(shown("tADClock"), "Frc (ADCS=111)");
   }
 }
@@ -108,61 +95,19 @@ TEST_F(MinADTimeWindow, RecalculatesWithTheImpedanceUnit) {
   EXPECT_EQ(shown("tMinTaq"), "2 uSec");
   press(Qt::Key_Space);
   EXPECT_EQ(shown("tMinTaq"), "3 uSec");
-  enter("tOSC", "0");
-  click("cKohm");
-  EXPECT_EQ(shown("tOSC"), "1");
-  EXPECT_EQ(results(), "Fosc/2 (ADCS=000) | 0 Tad | 2 uSec");
-
   control<QLineEdit>("tOSC")->clear();  // as it may stand when no focus moves
   control<QAbstractButton>("cKohm")->click();
-  EXPECT_EQ(shown("tOSC"), "1");
-  EXPECT_EQ(results(), "Fosc/2 (ADCS=000) | 0 Tad | 3 uSec");
+  EXPECT_EQ(shown("tOSC") + " | " + results(), "1 | Fosc/2 (ADCS=000) | 0 Tad | 2 uSec");
 }
 
 TEST_F(MinADTimeWindow, ReadsTheResolutionOnlyWhenCopying) {
   control<QLineEdit>("tOSC")->setText("4");
   control<QAbstractButton>("oADCBits(0)")->click();
-  EXPECT_EQ(results(), atLoad);
   control<QAbstractButton>("cCopyClip")->click();
   EXPECT_EQ(results(), atLoad);
   std::string defines8 = defines10;
   defines8.replace(defines8.find("10"), 2, " 8");
   EXPECT_EQ(ui::fromQt(QGuiApplication::clipboard()->text()), defines8);
-  control("tOSC")->setFocus();
-  click("oADCBits(1)");  // leaving the field recalculates
-  EXPECT_EQ(shown("tADClock"), "Fosc/8 (ADCS=001)");
-  EXPECT_NE(copied().find("ADC_BITS 10"), std::string::npos);
-}
-
-TEST_F(MinADTimeWindow, TakesAnyPastedText) {
-  struct Case {
-    const char* field;
-    const char* pasted;
-    const char* results;
-  };
-  for (const Case& c : {Case{"tImpedance", "-5", "Fosc/32 (ADCS=010) | 0 Tad | -2 uSec"},
-                        Case{"tImpedance", "-1", "Fosc/32 (ADCS=010) | 0 Tad | 1 uSec"},
-                        Case{"tImpedance", "1E999", "Fosc/32 (ADCS=010) | 64 Tad | "},
-                        Case{"tImpedance", "1E20", "Fosc/32 (ADCS=010) | 64 Tad | 8.4E+19 uSec"},
-                        Case{"tImpedance", "&H0A Ohm", atLoad.c_str()},
-                        Case{"tOSC", "-1E999", "Fosc/2 (ADCS=000) | 0 Tad | 11 uSec"},
-                        Case{"tOSC", "1E-999", "Fosc/2 (ADCS=000) | 6 Tad | 11 uSec"},
-                        Case{"tOSC", "1E-300", "Fosc/2 (ADCS=000) | 0 Tad | 11 uSec"}}) {
-    paste(c.field, c.pasted);
-    press(Qt::Key_Return);
-    EXPECT_EQ(results(), c.results) << c.field << " " << c.pasted;
-  }
-}
-
-TEST_F(MinADTimeWindow, GivesEachFieldItsOwnPoint) {
-  enter("tOSC", "1.2.5");
-  enter("tImpedance", ".-.7");
-  EXPECT_EQ(shown("tOSC") + " " + shown("tImpedance"), "1.25 .7");
-  type(".");  // used up until the field is entered anew
-  EXPECT_EQ(shown("tImpedance"), ".7");
-  click("cKohm");
-  enter("tImpedance", "3.");
-  EXPECT_EQ(shown("tImpedance"), "3.");
 }
 
 }  // namespace
