@@ -22,6 +22,30 @@ void fill(QComboBox& list, std::span<const std::string_view> items) {
   for (const std::string_view item : items) list.addItem(toQt(item));
 }
 
+// Puts a result on the window's own background, so that it is not taken for an input; follows the
+// desktop when it turns from light to dark.
+class WindowBackground : public QObject {
+public:
+  explicit WindowBackground(QWidget* result) : QObject(result), result_(result) {
+    result->installEventFilter(this);
+    apply();
+  }
+
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::ApplicationPaletteChange) apply();
+    return false;
+  }
+
+private:
+  void apply() {
+    QPalette own;
+    own.setBrush(QPalette::Base, own.brush(QPalette::Window));
+    result_->setPalette(own);
+  }
+
+  QWidget* result_;
+};
+
 }  // namespace
 
 std::string indexed(std::string_view family, int index) {
@@ -60,7 +84,7 @@ ResultField::ResultField(QWidget* parent, std::string_view name, std::string_vie
     : QLineEdit(parent) {
   setObjectName(toQt(name));
   setReadOnly(true);
-  blendIntoWindow();
+  new WindowBackground(this);
   fitWidth(*this, widest);
 }
 
@@ -72,30 +96,12 @@ void ResultField::setContents(std::string_view text) {
   setText(toQt(text));
 }
 
-void ResultField::changeEvent(QEvent* event) {
-  QLineEdit::changeEvent(event);
-  if (event->type() == QEvent::ApplicationPaletteChange) blendIntoWindow();
-}
-
-// A result stands on the window's own background, so that it is not taken for an input.
-void ResultField::blendIntoWindow() {
-  QPalette own;
-  own.setBrush(QPalette::Base, own.brush(QPalette::Window));
-  setPalette(own);
-}
-
-void alignInColumn(ResultField& field, std::string_view widest) {
-  useFixedPitch(field);
-  field.setAlignment(Qt::AlignRight);
-  fitWidth(field, widest);
-  field.setFixedWidth(field.minimumWidth());
-}
-
 ResultColumn::ResultColumn(QWidget* parent, std::string_view name, std::string_view widest,
                            int lines)
     : QPlainTextEdit(parent) {
   setObjectName(toQt(name));
   setReadOnly(true);
+  new WindowBackground(this);
   setUndoRedoEnabled(false);
   setTabChangesFocus(true);
   setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);

@@ -45,12 +45,6 @@ public:
 
   [[nodiscard]] std::string contents() const;
   void setContents(std::string_view text);
-
-protected:
-  void changeEvent(QEvent* event) override;
-
-private:
-  void blendIntoWindow();
 };
 
 // Makes a result field one of a column: fixed-pitch, right-aligned and as wide as `widest`, so that

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QGridLayout>
 
 #include <utility>
 
@@ -35,6 +36,15 @@ public:
 private:
   QPointer<QWidget> window_;
 };
+
+// Makes a message wide enough for its title to be shown whole beside the frame's buttons.
+void fitTitle(QMessageBox& message) {
+  constexpr int frameButtons = 140;
+  const int width = message.fontMetrics().horizontalAdvance(message.windowTitle()) + frameButtons;
+  auto* layout = qobject_cast<QGridLayout*>(message.layout());
+  if (layout == nullptr) return;
+  layout->addItem(new QSpacerItem(width, 0), layout->rowCount(), 0, 1, layout->columnCount());
+}
 
 FocusListener* listener(QWidget* control) {
   return dynamic_cast<FocusListener*>(control);
@@ -70,6 +80,7 @@ void Window::showMessage(QMessageBox::Icon icon, std::string_view title, std::st
   message_->setObjectName(QStringLiteral("message"));
   message_->setTextFormat(Qt::PlainText);
   message_->setAttribute(Qt::WA_DeleteOnClose);
+  fitTitle(*message_);
   new PressGuard(message_, this);
   message_->open();
 }
