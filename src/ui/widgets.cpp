@@ -96,6 +96,13 @@ void ResultField::setContents(std::string_view text) {
   setText(toQt(text));
 }
 
+void alignInColumn(ResultField& field, std::string_view widest) {
+  useFixedPitch(field);
+  field.setAlignment(Qt::AlignRight);
+  fitWidth(field, widest);
+  field.setFixedWidth(field.minimumWidth());
+}
+
 ResultColumn::ResultColumn(QWidget* parent, std::string_view name, std::string_view widest,
                            int lines)
     : QPlainTextEdit(parent) {
