@@ -76,6 +76,9 @@ TEST_F(Widgets, EntryFieldIgnoresControlCombinationsButEdits) {
   key(Qt::Key_Space, {}, " ");
   EXPECT_EQ(field.contents(), "12");
   EXPECT_FALSE(field.hasSelectedText());
+  field.selectAll();
+  for (const char* text : {"-", ",", " ", "\x1b"}) key(Qt::Key_unknown, {}, text);
+  EXPECT_EQ(field.selectedText(), "12");  // a cancelled character replaces nothing
   key(Qt::Key_Home, {}, "");
   key(Qt::Key_Delete, {}, "\x7f");
   EXPECT_EQ(field.contents(), "2");
