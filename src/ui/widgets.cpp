@@ -74,7 +74,7 @@ void ResultField::setContents(std::string_view text) {
 
 void ResultField::changeEvent(QEvent* event) {
   QLineEdit::changeEvent(event);
-  if (event->type() == QEvent::ApplicationPaletteChange) blendIntoWindow();
+  if (event->type() == QEvent::PaletteChange) blendIntoWindow();
 }
 
 // A result stands on the window's own background, so that it is not taken for an input.

@@ -122,6 +122,16 @@ TEST_F(Widgets, WindowShowsOneMessageAtATime) {
   EXPECT_EQ(boxes.front()->text(), "first");
 }
 
+TEST_F(Widgets, ResultFieldStandsOnTheBackgroundOfEachPalette) {
+  ui::ResultField result(&window, "result", "0");
+  QPalette dark;
+  dark.setColor(QPalette::Window, Qt::darkBlue);
+  QApplication::setPalette(dark);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(result.palette().color(QPalette::Base), QColor(Qt::darkBlue));
+  QApplication::setPalette(QPalette());
+}
+
 TEST_F(Widgets, EntryFieldIsCutAtItsLength) {
   field.setContents("1234567");
   EXPECT_EQ(field.contents(), "12345");
