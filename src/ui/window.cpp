@@ -52,6 +52,11 @@ Window::Window(std::string_view name, std::string_view caption)
           [this](QWidget*, QWidget* now) { followFocus(now); });
 }
 
+// Taking down an open window moves the focus once more, when nothing is left that could follow it.
+Window::~Window() {
+  disconnect(qApp, nullptr, this, nullptr);
+}
+
 void Window::bringForward() {
   setWindowState(windowState() & ~Qt::WindowMinimized);
   show();

@@ -26,6 +26,7 @@ class Window : public QWidget {
 
 public:
   Window(std::string_view name, std::string_view caption);
+  ~Window() override;
 
   // Shows the window, or brings it forward when it is open or minimised.
   void bringForward();

@@ -122,6 +122,15 @@ TEST_F(Widgets, WindowShowsOneMessageAtATime) {
   EXPECT_EQ(boxes.front()->text(), "first");
 }
 
+TEST_F(Widgets, WindowMayBeDestroyedWhileItIsWorkedIn) {
+  const auto second = std::make_unique<ui::Window>("fSecond", "Second");
+  auto* there = new ui::EntryField(second.get(), "there", {});
+  there->setFocus();
+  second->bringForward();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(second.get()));
+  EXPECT_TRUE(there->hasFocus());
+}
+
 TEST_F(Widgets, ResultFieldStandsOnTheBackgroundOfEachPalette) {
   ui::ResultField result(&window, "result", "0");
   QPalette dark;
