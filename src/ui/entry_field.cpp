@@ -93,8 +93,8 @@ void EntryField::keyPressEvent(QKeyEvent* event) {
     event->accept();
   } else if (event->text().isEmpty() || isEditingKey(key)) {
     QLineEdit::keyPressEvent(event);
-  } else {
-    insert(filtered(event->text()));
+  } else if (const QString accepted = filtered(event->text()); !accepted.isEmpty()) {
+    insert(accepted);  // an empty text would delete the selected one
   }
 }
 

@@ -32,7 +32,7 @@ public:
   }
 
   bool eventFilter(QObject*, QEvent* event) override {
-    if (event->type() == QEvent::ApplicationPaletteChange) apply();
+    if (event->type() == QEvent::PaletteChange) apply();
     return false;
   }
 

@@ -11,9 +11,9 @@
 namespace tarnwick::ui {
 namespace {
 
-// Keeps mouse presses and wheel steps from the controls of a window for as long as the message
-// that it belongs to is open: also the press whose focus change brought the message up, which
-// the toolkit delivers after that change.
+// Keeps mouse presses, context menus and wheel steps from the controls of a window for as long as
+// the message that it belongs to is open: also the press whose focus change brought the message up,
+// which the toolkit delivers after that change.
 class PressGuard : public QObject {
 public:
   PressGuard(QMessageBox* message, QWidget* window) : QObject(message), window_(window) {
@@ -24,6 +24,7 @@ public:
     switch (event->type()) {
       case QEvent::MouseButtonPress:
       case QEvent::MouseButtonDblClick:
+      case QEvent::ContextMenu:
       case QEvent::Wheel: {
         const auto* control = qobject_cast<QWidget*>(receiver);
         return control != nullptr && control->window() == window_;

@@ -137,6 +137,12 @@ TEST_F(Launcher, ShowsTheAboutBox) {
 class OscillatorField : public Program {
 protected:
   OscillatorField() { open("cTimer", "fTimer"); }
+
+  void askForMenu(const std::string& name) {
+    const auto* field = control(name);
+    QTest::mouseClick(current()->windowHandle(), Qt::RightButton, {},
+                      field->mapTo(current(), field->rect().center()));
+  }
 };
 
 TEST_F(OscillatorField, ShowsTheAcceptedFrequency) {
@@ -159,12 +165,14 @@ TEST_F(OscillatorField, WarnsOnceHoweverItIsLeft) {
       [&] { press(Qt::Key_Return); }, [&] { press(Qt::Key_Enter); },
       [&] { press(Qt::Key_Tab); },    [&] { press(Qt::Key_Backtab); },
       [&] { click("oType(2)"); },     [&] { clickAt("scrollpreload", {100, 8}); },
-      [&] { click("tReload"); },      [&] { click("tFreq"); }};
+      [&] { click("tReload"); },      [&] { click("tFreq"); },
+      [&] { askForMenu("tReload"); }};
   for (std::size_t way = 0; way < ways.size(); ++way) {
     enter("tOSC", "64.5");
     ways[way]();
     EXPECT_EQ(messageShown(), "Oscillator speed to high: As now maximum allowed is 64 MHz") << way;
     EXPECT_EQ(qobject_cast<QMessageBox*>(message())->icon(), QMessageBox::Warning);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
     confirmMessage();
     EXPECT_EQ(message(), nullptr) << way;
     EXPECT_EQ(shown("tOSC"), "64") << way;

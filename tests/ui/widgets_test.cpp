@@ -76,6 +76,9 @@ TEST_F(Widgets, EntryFieldIgnoresControlCombinationsButEdits) {
   key(Qt::Key_Space, {}, " ");
   EXPECT_EQ(field.contents(), "12");
   EXPECT_FALSE(field.hasSelectedText());
+  field.selectAll();
+  for (const char* text : {"-", ",", " ", "\x1b"}) key(Qt::Key_unknown, {}, text);
+  EXPECT_EQ(field.selectedText(), "12");  // a cancelled character replaces nothing
   key(Qt::Key_Home, {}, "");
   key(Qt::Key_Delete, {}, "\x7f");
   EXPECT_EQ(field.contents(), "2");
@@ -117,6 +120,25 @@ TEST_F(Widgets, WindowShowsOneMessageAtATime) {
   const auto boxes = window.findChildren<QMessageBox*>();
   ASSERT_EQ(boxes.size(), 1);
   EXPECT_EQ(boxes.front()->text(), "first");
+}
+
+TEST_F(Widgets, WindowMayBeDestroyedWhileItIsWorkedIn) {
+  const auto second = std::make_unique<ui::Window>("fSecond", "Second");
+  auto* there = new ui::EntryField(second.get(), "there", {});
+  there->setFocus();
+  second->bringForward();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(second.get()));
+  EXPECT_TRUE(there->hasFocus());
+}
+
+TEST_F(Widgets, ResultFieldStandsOnTheBackgroundOfEachPalette) {
+  ui::ResultField result(&window, "result", "0");
+  QPalette dark;
+  dark.setColor(QPalette::Window, Qt::darkBlue);
+  QApplication::setPalette(dark);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(result.palette().color(QPalette::Base), QColor(Qt::darkBlue));
+  QApplication::setPalette(QPalette());
 }
 
 TEST_F(Widgets, EntryFieldIsCutAtItsLength) {
