@@ -275,6 +275,7 @@ TEST_F(LcdWindow, IsDrawnByKeys) {
 }
 
 TEST_F(LcdWindow, KeepsTheDataOfOtherSlotsWhileItIsClosed) {
+  click(cell(0));
   click("oChar(1)");
   draw(arrow);
   name(1, "one", "One");
@@ -288,7 +289,9 @@ TEST_F(LcdWindow, KeepsTheDataOfOtherSlotsWhileItIsClosed) {
   EXPECT_EQ(shown("tCommandUS"), "2000");
   EXPECT_TRUE(isSelected("oChar(0)"));
   EXPECT_TRUE(allSlotsAreBlank());
-  EXPECT_EQ(copied(), heading + "LCDOUT $FE, $50, $1F, $00, $00, $00, $00, $00, $00, $00 ' //");
+  EXPECT_EQ(copied(), heading +
+                          "LCDOUT $FE, $40, $01, $00, $00, $00, $00, $00, $00, $00 ' /"
+                          "LCDOUT $FE, $50, $1F, $00, $00, $00, $00, $00, $00, $00 ' //");
   click(cell(4));
   EXPECT_EQ(copied(), heading +
                           "LCDOUT $FE, $40, $10, $00, $00, $00, $00, $00, $00, $00 ' /"
