@@ -12,44 +12,6 @@ namespace {
 const LcdSettings defaults = {"PORTB", "0", "PORTB", "4", "PORTB", "5",
                               "",      "0", "4",     "2", "2000",  "50"};
 
-std::string withCrLf(const std::vector<std::string>& lines) {
-  std::string text;
-  for (const std::string& line : lines) text += line + "\r\n";
-  return text;
-}
-
-TEST(BuildLcdText, WritesSetUpDefinitionsAndConstants) {
-  LcdCharacters characters;
-  characters[0] = {", $00, $0A, $0A, $00, $11, $0E, $00, $00", "smiley", "Smile"};
-  characters[2] = {", $04, $0E, $1F, $04, $04, $04, $04, $00", "", ""};
-  EXPECT_EQ(BuildLcdText(defaults, true, characters),
-            withCrLf({"    '",
-                      "    '    LCD setup",
-                      "    '    =========",
-                      "DEFINE LCD_DREG PORTB     ' LCD data port",
-                      "DEFINE LCD_DBIT 0         ' LCD data starting bit",
-                      "DEFINE LCD_RSREG PORTB    ' LCD register select port",
-                      "DEFINE LCD_RSBIT 4        ' LCD register select bit",
-                      "DEFINE LCD_EREG PORTB     ' LCD enable port",
-                      "DEFINE LCD_EBIT 5         ' LCD enable bit",
-                      "DEFINE LCD_BITS 4         ' LCD data bus size",
-                      "DEFINE LCD_LINES 2        ' Number lines on LCD",
-                      "DEFINE LCD_COMMANDUS 2000 ' Command delay time in us",
-                      "DEFINE LCD_DATAUS 50      ' Data delay time in us",
-                      "",
-                      "    '",
-                      "    '    Custom character definition",
-                      "    '    ===========================",
-                      "LCDOUT $FE, $40, $00, $0A, $0A, $00, $11, $0E, $00, $00 ' smiley",
-                      "LCDOUT $FE, $50, $04, $0E, $1F, $04, $04, $04, $04, $00 ' ",
-                      "",
-                      "    '",
-                      "    '    Custom character constant(s)",
-                      "    '    ============================",
-                      "Smile                CON 0",
-                      ""}));
-}
-
 TEST(BuildLcdText, TakesEveryTextAsItStands) {
   EXPECT_EQ(BuildLcdText(defaults, false, {}), "");
   const std::string noTexts = BuildLcdText({}, true, {});
@@ -113,29 +75,24 @@ std::string expectedText(const LcdSettings& s, bool include, const LcdCharacters
 TEST(BuildLcdText, AgreesWithItsListOfLinesInEveryCombination) {
   const std::array<std::size_t, 4> aliasLengths = {0, 1, 19, 20};
   const std::array<std::string, 4> descriptions = {"", "smiley", "ends in a blank ", "' , $1F\t%s"};
-  for (unsigned flags = 0; flags < 4; ++flags) {
+  for (unsigned flags = 0; flags < 4 * 256 * 16; ++flags) {
+    const unsigned turn = flags / 4 % 16;
+    const bool include = flags % 2 == 1;
     LcdSettings settings = {"PORTC", "4", "RSport", "12", "", "7", "", "6", "8", "", "1", ""};
-    if (flags & 2U) settings.readWritePort = "PORTA";
-    for (unsigned inUse = 0; inUse < 256; ++inUse) {
-      for (unsigned turn = 0; turn < 16; ++turn) {
-        settings.readWriteBit = turn % 2 == 0 ? "6" : "";
-        LcdCharacters characters;
-        for (unsigned i = 0; i < 8; ++i) {
-          const std::string label = ", $0" + std::to_string(i);
-          if (inUse & (1U << i)) {
-            for (int row = 0; row < 8; ++row) characters[i].characterData += label;
-          }
-          // The rotation gives each slot every length with every description.
-          characters[i].constantAlias =
-              std::string(aliasLengths[(turn + i) % 4], static_cast<char>('a' + i));
-          characters[i].description = descriptions[(turn / 4 + i) % 4];
-        }
-        for (unsigned i = 0; turn == 0 && i < 8; ++i) characters[i].constantAlias.clear();
-        ASSERT_EQ(BuildLcdText(settings, flags & 1U, characters),
-                  expectedText(settings, flags & 1U, characters))
-            << "flags " << flags << ", in use " << inUse << ", turn " << turn;
-      }
+    if (flags / 2 % 2 == 1) settings.readWritePort = "PORTA";
+    if (turn % 2 == 1) settings.readWriteBit = "";
+    LcdCharacters characters;
+    for (unsigned i = 0; i < 8; ++i) {
+      for (int row = 0; flags / 64 >> i & 1U && row < 8; ++row)
+        characters[i].characterData += ", $0" + std::to_string(i);
+      // The rotation gives each slot every length with every description.
+      const std::size_t length = turn == 0 ? 0 : aliasLengths[(turn + i) % 4];
+      characters[i].constantAlias = std::string(length, static_cast<char>('a' + i));
+      characters[i].description = descriptions[(turn / 4 + i) % 4];
     }
+    ASSERT_EQ(BuildLcdText(settings, include, characters),
+              expectedText(settings, include, characters))
+        << flags;
   }
 }
 

