@@ -34,16 +34,6 @@ protected:
   }
 };
 
-TEST_F(ComparatorWindow, OpensWithItsDefaults) {
-  EXPECT_EQ(shown("tVdd") + shown("tLabelVdd"), "5Volt");
-  EXPECT_EQ(control<QAbstractButton>("oVrefRange(1)")->text(), "Low  (CVRR=0)");
-  EXPECT_EQ(control<QAbstractButton>("oVrefRange(2)")->text(), "High (CVRR=1)");
-  EXPECT_EQ(shown("Text1"),
-            "0000\r\n0001\r\n0010\r\n0011\r\n0100\r\n0101\r\n0110\r\n0111\r\n"
-            "1000\r\n1001\r\n1010\r\n1011\r\n1100\r\n1101\r\n1110\r\n1111\r\n");
-  EXPECT_EQ(shown("tVref"), low5);
-}
-
 TEST_F(ComparatorWindow, FollowsRangeAndSupply) {
   click("oVrefRange(2)");
   EXPECT_EQ(spans(), spans5);

@@ -108,16 +108,6 @@ protected:
 };
 
 TEST_F(LcdWindow, OpensBlankAtItsPlaces) {
-  EXPECT_EQ(current()->windowTitle(), "LCD Custom character generator");
-  EXPECT_EQ(shown("PortData") + shown("PortRS") + shown("PortE") + shown("PortRW"),
-            "PORTBPORTBPORTB");
-  EXPECT_EQ(shown("BitData") + shown("BitRS") + shown("BitE") + shown("BitRW"), "0450");
-  EXPECT_EQ(shown("Bits") + shown("Lines") + shown("tCommandUS") + shown("tDataUS"), "42200050");
-  EXPECT_TRUE(control("BitData")->isEnabled() && control("BitRS")->isEnabled() &&
-              control("BitE")->isEnabled() && !control("BitRW")->isEnabled());
-  EXPECT_FALSE(isSelected("cInclude"));
-  EXPECT_TRUE(isSelected("oChar(0)"));
-  EXPECT_EQ(labels(), noLabels);
   EXPECT_EQ(grid(), blank);
   EXPECT_EQ(preview(), blank);
   EXPECT_TRUE(allSlotsAreBlank());

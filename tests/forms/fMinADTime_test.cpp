@@ -25,15 +25,6 @@ protected:
 };
 using OnDisplayMinADTime = MinADTimeWindow;
 
-TEST_F(MinADTimeWindow, OpensWithItsDefaults) {
-  EXPECT_EQ(shown("tOSC") + " " + shown("tImpedance"), "20 10");
-  EXPECT_TRUE(isSelected("cKohm") && isSelected("oADCBits(1)"));
-  EXPECT_EQ(control<QAbstractButton>("oADCBits(1)")->text(), "10 Bits");
-  EXPECT_EQ(shown("tlabel(0)"), "A/D conversion clock (ADCS)  :");
-  EXPECT_EQ(shown("tlabel(1)"), "A/D acquistion time (ACQT) :");
-  EXPECT_EQ(results(), atLoad);
-}
-
 TEST_F(OnDisplayMinADTime, HandsItsDefinesToOtherPrograms) {
   click("cCopyClip");
   EXPECT_EQ(clipboardSeenByAnotherProgram(), defines10);

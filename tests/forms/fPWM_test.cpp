@@ -29,20 +29,6 @@ protected:
   }
 };
 
-TEST_F(PwmWindow, OpensWithItsDefaults) {
-  EXPECT_EQ(current()->windowTitle(), "PWM Calc");
-  EXPECT_EQ(texts({"tOSC", "tFreq", "tMinFreq", "tMaxFreq"}), "4|1|244.141 Hz|500.0 KHz|");
-  EXPECT_TRUE(isSelected("oHzKhz(1)"));
-  EXPECT_EQ(texts({"tCalc", "tPrescaler", "tResolution", "trMaxPR2", "trDutyStep"}),
-            " 1.0 KHz\r\n 0.992 KHz\r\n|1:4\r\n1:16\r\n|10 Bit\r\n8 Bit\r\n|1000\r\n250\r\n|"
-            "0.1 %\r\n0.4 %\r\n|");
-  EXPECT_EQ(texts({"tPrescaler2", "tPR2"}), "1:4\r\n1:16\r\n|  249\r\n  62\r\n|");
-  EXPECT_EQ(duty(), "50|500\r\n126\r\n|50.0 %\r\n50.0 %\r\n|");
-  EXPECT_EQ(position(), 50);
-  EXPECT_TRUE(control("tDuty")->isEnabled() && control("scrollduty")->isEnabled());
-  EXPECT_EQ(control<QPlainTextEdit>("tPR2")->toPlainText(), "  249\n  62");
-}
-
 TEST_F(PwmWindow, EmptiesItsResultsWhenNothingMatches) {
   click("oHzKhz(0)");
   EXPECT_TRUE(isEmpty());

@@ -23,15 +23,6 @@ protected:
   }
 };
 
-TEST_F(Ser2Window, OpensWithItsDefaults) {
-  EXPECT_EQ(mode(), "84");
-  EXPECT_EQ(shown("tBaud") + shown("BaudDropList"), "96009600");
-  for (const char* option : {"oOutput(1)", "oConversion(1)", "oParity(1)"})
-    EXPECT_TRUE(isSelected(option)) << option;
-  EXPECT_EQ(left("fResults"), 8);
-  expectAlone();
-}
-
 TEST_F(Ser2Window, AddsTheOptions) {
   click("oOutput(2)");
   EXPECT_EQ(mode(), "32852");

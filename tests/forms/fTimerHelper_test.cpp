@@ -30,18 +30,6 @@ protected:
 };
 
 const char* const none = "||||  ";
-const char* const rest10 =
-    "|1:1\r\n1:2\r\n1:4\r\n|10.0 uSec\r\n11.0 uSec\r\n11.0 uSec\r\n|0.0 %\r\n9.091 %\r\n9.091 "
-    "%\r\n|";
-
-TEST_F(TimerHelperWindow, OpensWithItsDefaults) {
-  EXPECT_EQ(current()->windowTitle(), "Timer helper");
-  EXPECT_EQ(shown("tOSC") + " " + shown("tReload") + " " + delay(), "4 7 10 uSec");
-  EXPECT_EQ(control<QSlider>("HScroll1")->value(), 7);
-  EXPECT_EQ(results("8"), "253\r\n254\r\n255\r\n" + std::string(rest10) + "253 1 0.0");
-  EXPECT_EQ(results("16"), "65533\r\n65534\r\n65535\r\n" + std::string(rest10) + "65533 1 0.0");
-}
-
 TEST_F(TimerHelperWindow, AnswersTypedQuestions) {
   enter("tDelay", "1");
   click("omSecuSec(1)");
