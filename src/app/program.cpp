@@ -18,6 +18,7 @@ QIcon programIcon() {
 
 int run() {
   QApplication::setApplicationName(ui::toQt(common::product::name));
+  QGuiApplication::setDesktopFileName(QStringLiteral("tarnwick"));
   QApplication::setWindowIcon(programIcon());
   GenVar genVar;
   WindowSet windows;
