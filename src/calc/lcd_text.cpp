@@ -1,5 +1,6 @@
 #include "calc/lcd_text.h"
 
+#include "common/lines.h"
 #include "common/number_text.h"
 
 #include <algorithm>
@@ -10,12 +11,9 @@
 namespace tarnwick::calc {
 namespace {
 
-constexpr std::size_t aliasWidth = 20;
+using common::addLine;
 
-void addLine(std::string& text, std::string_view line) {
-  text += line;
-  text += common::lineEnd;
-}
+constexpr std::size_t aliasWidth = 20;
 
 // A block's lines under its heading, with an empty line behind; nothing where there are none.
 std::string block(std::string_view heading, std::string_view lines) {

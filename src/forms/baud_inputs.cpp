@@ -15,8 +15,9 @@ constexpr int defaultBaud = 5;
 }  // namespace
 
 BaudInputs::BaudInputs(ui::Window* window, std::string_view fieldName,
-                       const ui::EntryFieldTraits& traits, std::function<void()> recalculate)
-    : recalculate_(std::move(recalculate)) {
+                       const ui::EntryFieldTraits& traits, Choice choice,
+                       std::function<void()> recalculate)
+    : choice_(choice), recalculate_(std::move(recalculate)) {
   baudGroup = ui::group(window, "fBaudrate", "Baudrate");
   field = new ui::EntryField(baudGroup, fieldName, traits);
   ui::nameAfter(field, "Baudrate");
@@ -43,6 +44,7 @@ void BaudInputs::chooseDefault() {
 }
 
 void BaudInputs::BaudDropList_Click() {
+  if (choice_ == Choice::UnitFirst) cKBaud->setChecked(false);
   field->setContents(BaudDropList->contents());
   cKBaud->setChecked(false);
   recalculate_();

@@ -10,11 +10,15 @@ namespace tarnwick::forms {
 
 // The wanted baud rate as the windows of the serial calculators ask for it: a field, its unit, and
 // a list of common rates that fills the field. Choosing a rate takes it as Bd; both a choice and a
-// change of the unit recalculate. Validating the field is the window's own.
+// change of the unit recalculate, so a choice that changes the unit does so twice. Validating the
+// field is the window's own.
 class BaudInputs {
 public:
+  // What a choice changes first. Each change recalculates, and some results outlast the next one.
+  enum class Choice { TextFirst, UnitFirst };
+
   BaudInputs(ui::Window* window, std::string_view fieldName, const ui::EntryFieldTraits& traits,
-             std::function<void()> recalculate);
+             Choice choice, std::function<void()> recalculate);
   BaudInputs(const BaudInputs&) = delete;
   BaudInputs& operator=(const BaudInputs&) = delete;
 
@@ -32,6 +36,7 @@ public:
 private:
   void BaudDropList_Click();
 
+  Choice choice_;
   std::function<void()> recalculate_;
 };
 

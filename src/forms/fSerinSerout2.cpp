@@ -37,7 +37,7 @@ fSerinSerout2::fSerinSerout2()
                .pointTyped = &BaudPointTyped,
                .clearsPointOnEntering = true,
                .validatesOnFocusLost = true},
-              [this] { CalcMode(); }),
+              BaudInputs::Choice::UnitFirst, [this] { CalcMode(); }),
       tBaud(inputs_.field) {
   layOut();
   connectEvents();

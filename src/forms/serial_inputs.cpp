@@ -35,7 +35,7 @@ SerialInputs::SerialInputs(ui::Window* window, common::OscillatorSetting& oscill
             .pointTyped = &BaudPointTyped,
             .validatesOnFocusLost = true,
             .maxLength = maxBaudLength},
-           recalculate),
+           BaudInputs::Choice::TextFirst, recalculate),
       BaudRate(rate.field),
       window_(window),
       oscillator_(oscillator),

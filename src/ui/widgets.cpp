@@ -7,11 +7,24 @@
 #include <QFontDatabase>
 #include <QSignalBlocker>
 #include <QStyleOptionFrame>
+#include <QValidator>
 
 #include <algorithm>
 
 namespace tarnwick::ui {
 namespace {
+
+// A line break would be shown as a blank and copied as a line break; this makes it a blank.
+class OneLine : public QValidator {
+public:
+  using QValidator::QValidator;
+
+  State validate(QString& text, int& /*cursor*/) const override {
+    for (QChar& c : text)
+      if (c == QLatin1Char('\n') || c == QLatin1Char('\r')) c = QLatin1Char(' ');
+    return Acceptable;
+  }
+};
 
 void giveNames(QWidget& control, std::string_view name, std::string_view accessibleName) {
   control.setObjectName(toQt(name));
@@ -72,6 +85,7 @@ void useFixedPitch(QWidget& control) {
 
 QLineEdit* textField(QWidget* parent, std::string_view name, int maxLength) {
   auto* field = new QLineEdit(parent);
+  field->setValidator(new OneLine(field));
   field->setObjectName(toQt(name));
   field->setMaxLength(maxLength);
   useFixedPitch(*field);
@@ -197,6 +211,7 @@ EditableList::EditableList(QWidget* parent, std::string_view name,
   setEditable(true);
   setInsertPolicy(QComboBox::NoInsert);
   setCompleter(nullptr);
+  setValidator(new OneLine(this));
   // The list would take a typed text that equals an item for a choice of that item.
   disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
   fill(*this, items);

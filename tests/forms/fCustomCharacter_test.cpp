@@ -334,6 +334,17 @@ TEST_F(LcdWindow, CopiesEverySettingAsItStands) {
             "DEFINE LCD_DATAUS       ' Data delay time in us//");
 }
 
+TEST_F(LcdWindow, KeepsPastedTextsOnOneLine) {
+  click(cell(0));
+  paste(of("tName", 0), "a\nb");
+  paste(of("tConstant", 0), "C\r\nD");
+  EXPECT_EQ(slot(0), " $01, $00, $00, $00, $00, $00, $00, $00|a b|C  D|on");
+  QGuiApplication::clipboard()->setText("PORT\nA");
+  enterText("PortData", "");
+  control<QComboBox>("PortData")->lineEdit()->paste();
+  EXPECT_EQ(shown("PortData"), "PORT A");
+}
+
 TEST_F(LcdWindow, MovesBetweenTheDelaysOnEnter) {
   enter("tCommandUS", "12.a-345");
   EXPECT_EQ(shown("tCommandUS"), "1234");

@@ -57,6 +57,17 @@ TEST_F(Ser2Window, LeavesTheButtonAloneWithoutAMode) {
   }
 }
 
+TEST_F(Ser2Window, ChangesTheUnitBeforeTheRateOnAChoice) {
+  click("oParity(0)");
+  enterAndConfirm("tBaud", "57.6");
+  click("cKBaud");
+  click("oParity(1)");
+  expectBesideButton();
+  pick("BaudDropList", 8);  // 57.6 Bd have a mode on the way, 57600 Bd have none
+  EXPECT_EQ(mode(), "");
+  expectAlone();
+}
+
 TEST_F(Ser2Window, TakesTypedAndChosenRates) {
   enterAndConfirm("tBaud", "2.4");
   EXPECT_EQ(focused(), "cKBaud");
