@@ -4,7 +4,6 @@
 #include <QApplication>
 #include <QLabel>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QPushButton>
 
 namespace tarnwick::tests {
@@ -108,65 +107,6 @@ TEST_F(Launcher, ShowsTheAboutBox) {
   EXPECT_EQ(focused(), "cmdOK");
   press(Qt::Key_Space);
   EXPECT_EQ(windows.loaded("fAbout"), nullptr);
-}
-
-class OscillatorField : public Program {
-protected:
-  OscillatorField() { open("cTimer", "fTimer"); }
-
-  void askForMenu(const std::string& name) {
-    const auto* field = control(name);
-    QTest::mouseClick(current()->windowHandle(), Qt::RightButton, {},
-                      field->mapTo(current(), field->rect().center()));
-  }
-};
-
-TEST_F(OscillatorField, ShowsTheAcceptedFrequency) {
-  struct Case {
-    const char* typed;
-    const char* shown;
-  };
-  for (const Case& c :
-       {Case{"0", "1"}, Case{"", "1"}, Case{".", "1"}, Case{"64", "64"}, Case{"4.000", "4"},
-        Case{"3.6864", "3.6864"}, Case{"20.", "20"}, Case{"12345678", "64"}}) {
-    enter("tOSC", c.typed);
-    press(Qt::Key_Tab);
-    EXPECT_EQ(shown("tOSC"), c.shown) << c.typed;
-    if (message() != nullptr) confirmMessage();
-  }
-}
-
-TEST_F(OscillatorField, WarnsOnceHoweverItIsLeft) {
-  const std::vector<std::function<void()>> ways{
-      [&] { press(Qt::Key_Return); }, [&] { press(Qt::Key_Enter); },
-      [&] { press(Qt::Key_Tab); },    [&] { press(Qt::Key_Backtab); },
-      [&] { click("oType(2)"); },     [&] { clickAt("scrollpreload", {100, 8}); },
-      [&] { click("tReload"); },      [&] { click("tFreq"); },
-      [&] { askForMenu("tReload"); }};
-  for (std::size_t way = 0; way < ways.size(); ++way) {
-    enter("tOSC", "64.5");
-    ways[way]();
-    EXPECT_EQ(messageShown(), "Oscillator speed to high: As now maximum allowed is 64 MHz") << way;
-    EXPECT_EQ(qobject_cast<QMessageBox*>(message())->icon(), QMessageBox::Warning);
-    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
-    confirmMessage();
-    EXPECT_EQ(message(), nullptr) << way;
-    EXPECT_EQ(shown("tOSC"), "64") << way;
-    EXPECT_EQ(shown("tFosc"), "16.0 MHz") << way;
-    EXPECT_TRUE(isSelected("oType(1)"));  // what was clicked did not act
-    EXPECT_EQ(shown("tPreLoad"), "0");
-    for (const auto* button : current()->findChildren<QAbstractButton*>())
-      EXPECT_FALSE(button->isDown()) << button->objectName().toStdString();
-  }
-}
-
-TEST_F(OscillatorField, IsNotLeftBySwitchingWindows) {
-  enter("tOSC", "100");
-  turnTo("fMain");
-  EXPECT_EQ(message(), nullptr);
-  turnTo("fTimer");
-  EXPECT_EQ(focused(), "tOSC");
-  EXPECT_EQ(shown("tOSC"), "100");
 }
 
 }  // namespace

@@ -8,12 +8,11 @@
 #include <QComboBox>
 #include <QDesktopServices>
 #include <QLabel>
-#include <QLineEdit>
 #include <QListView>
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
-#include <QRadioButton>
+#include <QSlider>
 #include <QUrl>
 
 namespace tarnwick::tests {
@@ -88,17 +87,16 @@ std::string Program::focused() const {
   return focus == nullptr ? "" : ui::fromQt(focus->objectName());
 }
 
-void Program::click(const std::string& name) {
+void Program::click(const std::string& name, Qt::MouseButton button) {
   auto* target = control(name);
   QPoint place = target->rect().center();
   if (qobject_cast<QAbstractButton*>(target) != nullptr) place.setX(std::min(place.x(), 10));
-  clickAt(name, place);
+  clickAt(name, place, button);
 }
 
-void Program::clickAt(const std::string& name, QPoint place) {
+void Program::clickAt(const std::string& name, QPoint place, Qt::MouseButton button) {
   auto* target = control(name);
-  QTest::mouseClick(current_->windowHandle(), Qt::LeftButton, {},
-                    target->mapTo(target->window(), place));
+  QTest::mouseClick(current_->windowHandle(), button, {}, target->mapTo(target->window(), place));
   settle();
 }
 
@@ -113,9 +111,18 @@ void Program::type(const std::string& characters) {
   for (const char c : characters) QTest::keyClick(QGuiApplication::focusWindow(), c);
 }
 
+// Takes the focus there and selects all text.
+QLineEdit* Program::goTo(const std::string& name) {
+  auto* target = control(name);
+  auto* list = qobject_cast<QComboBox*>(target);
+  auto* field = list != nullptr ? list->lineEdit() : control<QLineEdit>(name);
+  target->setFocus(Qt::MouseFocusReason);
+  field->selectAll();
+  return field;
+}
+
 void Program::enter(const std::string& field, const std::string& characters) {
-  control(field)->setFocus(Qt::MouseFocusReason);
-  control<QLineEdit>(field)->selectAll();
+  goTo(field);
   press(Qt::Key_Delete);
   type(characters);
 }
@@ -127,9 +134,7 @@ void Program::enterAndConfirm(const std::string& field, const std::string& chara
 
 void Program::paste(const std::string& field, const std::string& text) {
   QGuiApplication::clipboard()->setText(ui::toQt(text));
-  control(field)->setFocus(Qt::MouseFocusReason);
-  control<QLineEdit>(field)->selectAll();
-  control<QLineEdit>(field)->paste();
+  goTo(field)->paste();
 }
 
 void Program::pick(const std::string& list, int item) {
@@ -153,12 +158,11 @@ std::string Program::shown(const std::string& name) {
   if (const auto* field = qobject_cast<QLineEdit*>(target)) return ui::fromQt(field->text());
   if (const auto* list = qobject_cast<QComboBox*>(target)) return ui::fromQt(list->currentText());
   if (const auto* label = qobject_cast<QLabel*>(target)) return ui::fromQt(label->text());
+  if (const auto* slider = qobject_cast<QSlider*>(target)) return std::to_string(slider->value());
+  if (const auto* button = qobject_cast<QAbstractButton*>(target))
+    return button->isChecked() ? "on" : "off";
   ADD_FAILURE() << name << " shows no text";
   return {};
-}
-
-bool Program::isSelected(const std::string& option) {
-  return control<QAbstractButton>(option)->isChecked();
 }
 
 QWidget* Program::message() const {
@@ -167,7 +171,9 @@ QWidget* Program::message() const {
 
 std::string Program::messageShown() const {
   const auto* box = qobject_cast<QMessageBox*>(message());
-  return box == nullptr ? "" : ui::fromQt(box->windowTitle() + ": " + box->text());
+  if (box == nullptr) return "";
+  const char* kind = box->icon() == QMessageBox::Critical ? "critical, " : "";
+  return kind + ui::fromQt(box->windowTitle() + ": " + box->text());
 }
 
 void Program::confirmMessage() {

@@ -4,6 +4,7 @@
 #include "app/window_set.h"
 #include "ui/text.h"
 
+#include <QLineEdit>
 #include <QTest>
 #include <QWidget>
 #include <gtest/gtest.h>
@@ -37,27 +38,28 @@ protected:
   }
   std::string focused() const;
 
-  void click(const std::string& control);
+  void click(const std::string& control, Qt::MouseButton button = Qt::LeftButton);
   // Clicks a place of a control given in pixels from its top left corner.
-  void clickAt(const std::string& control, QPoint place);
+  void clickAt(const std::string& control, QPoint place, Qt::MouseButton button = Qt::LeftButton);
   void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
   void type(const std::string& characters);
-  // Goes to an entry field, empties it and types a text, without leaving it.
+  // Goes to an entry field or an editable list, empties it and types a text, without leaving it.
   void enter(const std::string& field, const std::string& characters);
   // The same, left to the window's validation by the Enter key.
   void enterAndConfirm(const std::string& field, const std::string& characters);
-  // Pastes a text into a field as its context menu does.
+  // Pastes a text over a field's or an editable list's own as its context menu does.
   void paste(const std::string& field, const std::string& text);
   // Picks an item of a drop-down list, the current one too, by mouse.
   void pick(const std::string& list, int item);
 
-  // What a one-line field, a column, a label or a list shows; a column's as the program sees it.
+  // What a one-line field, a column, a label or a list shows, a column's as the program sees it;
+  // a slider's position; "on" or "off" of an option or a check box.
   std::string shown(const std::string& control);
-  bool isSelected(const std::string& option);
 
   // The message box that is open, or nothing.
   QWidget* message() const;
-  // The message's title and text in one: "title: text"; empty when there is no message.
+  // The message's title and text in one: "title: text" or, where it shows a fault's picture,
+  // "critical, title: text"; empty when there is no message.
   std::string messageShown() const;
   void confirmMessage();
 
@@ -68,6 +70,7 @@ protected:
 
 private:
   class Shell;
+  QLineEdit* goTo(const std::string& field);
   std::unique_ptr<Shell> shell_;
   QWidget* current_ = nullptr;
 };
