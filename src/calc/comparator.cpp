@@ -33,7 +33,7 @@ std::string highRangeText(double Vdd) {
 
 std::string vrefColumn(VrefRange range, double Vdd) {
   std::string column;
-  column.reserve(16 * 8);
+  column.reserve(std::size_t{16} * 8);
   for (int CVR = 0; CVR <= lastCVR; ++CVR) {
     const double voltage = range == VrefRange::Low ? VrefLow(CVR, Vdd) : VrefHigh(CVR, Vdd);
     column.append(common::format(voltage, "##0.000")).append(common::lineEnd);

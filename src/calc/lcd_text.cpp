@@ -89,7 +89,7 @@ std::string BuildLcdText(const LcdSettings& settings, bool includeDefines,
     if (!alias.empty())
       addLine(constants, padded(alias) + " CON " + common::wholeText(static_cast<std::int64_t>(i)));
     if (!data.empty()) {
-      addLine(definitions, std::string(CgramCommand[i]) + data + " ' " + description);
+      addLine(definitions, std::string(CgramCommand[i]).append(data + " ' ").append(description));
     }
   }
   return block("LCD setup", setUp) + block("Custom character definition", definitions) +
