@@ -4,6 +4,7 @@
 #include "ui/layout.h"
 
 #include <string>
+#include <utility>
 
 namespace tarnwick::forms {
 namespace {
@@ -39,7 +40,7 @@ SerialInputs::SerialInputs(ui::Window* window, common::OscillatorSetting& oscill
       BaudRate(rate.field),
       window_(window),
       oscillator_(oscillator),
-      recalculate_(recalculate) {
+      recalculate_(std::move(recalculate)) {
   QObject::connect(fOSC, &ui::EntryField::validate, window, [this] { fOSC_Validate(); });
   QObject::connect(fOSC, &ui::EntryField::entered, window, [this] { BaudRate->setFocus(); });
   QObject::connect(BaudRate, &ui::EntryField::validate, window, [this] { BaudRate_Validate(); });
