@@ -224,10 +224,6 @@ std::string EditableList::contents() const {
   return fromQt(currentText());
 }
 
-void EditableList::setContents(std::string_view text) {
-  setEditText(toQt(text));
-}
-
 void EditableList::choose(int index) {
   setCurrentIndex(index);
   emit chosen(index);

@@ -141,8 +141,6 @@ public:
                std::string_view widest);
 
   [[nodiscard]] std::string contents() const;
-  // Sets the text without choosing an item; `edited` is raised when it is another text.
-  void setContents(std::string_view text);
   // Selects an item from code; `chosen` is raised as when a user picks it.
   void choose(int index);
 
