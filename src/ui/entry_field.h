@@ -20,7 +20,7 @@ struct EntryFieldTraits {
   // Leaving the field validates it once more in its focus-lost step.
   bool validatesOnFocusLost = false;
   int maxLength = 32767;
-  // The longest text that the field is to show whole.
+  // The longest text that the field is to show whole; read while the field is made.
   std::string_view widest = "00000000";
 };
 
@@ -56,7 +56,10 @@ private:
   // Passes the characters through the key filter and answers those that may be inserted.
   QString filtered(const QString& characters);
 
-  EntryFieldTraits traits_;
+  decltype(EntryFieldTraits::keys) keys_;
+  bool* pointTyped_;
+  bool clearsPointOnEntering_;
+  bool validatesOnFocusLost_;
 };
 
 }  // namespace tarnwick::ui
