@@ -44,6 +44,7 @@ EntryField::EntryField(QWidget* parent, std::string_view name, const EntryFieldT
       validatesOnFocusLost_(traits.validatesOnFocusLost) {
   setObjectName(toQt(name));
   setMaxLength(traits.maxLength);
+  keepOnOneLine(*this);
   setAlignment(Qt::AlignCenter);
   setInputMethodHints(pointTyped_ != nullptr ? Qt::ImhFormattedNumbersOnly : Qt::ImhDigitsOnly);
   fitWidth(*this, traits.widest);

@@ -25,8 +25,9 @@ struct EntryFieldTraits {
 };
 
 // A one-line field for a number. Typed characters pass the key filter, whether they come by keys
-// or by an input method; pasted text does not. Enter validates and then reports `entered`; moving
-// to another control of the window validates and then reports `focusLost`.
+// or by an input method; pasted text does not, but stays on one line. Enter validates and then
+// reports `entered`; moving to another control of the window validates and then reports
+// `focusLost`.
 class EntryField : public QLineEdit, public FocusListener {
   Q_OBJECT
 

@@ -14,7 +14,6 @@
 namespace tarnwick::ui {
 namespace {
 
-// A line break would be shown as a blank and copied as a line break; this makes it a blank.
 class OneLine : public QValidator {
 public:
   using QValidator::QValidator;
@@ -79,13 +78,17 @@ void fitWidth(QLineEdit& field, std::string_view widest) {
       field.style()->sizeFromContents(QStyle::CT_LineEdit, &option, text, &field).width());
 }
 
+void keepOnOneLine(QLineEdit& field) {
+  field.setValidator(new OneLine(&field));
+}
+
 void useFixedPitch(QWidget& control) {
   control.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
 }
 
 QLineEdit* textField(QWidget* parent, std::string_view name, int maxLength) {
   auto* field = new QLineEdit(parent);
-  field->setValidator(new OneLine(field));
+  keepOnOneLine(*field);
   field->setObjectName(toQt(name));
   field->setMaxLength(maxLength);
   useFixedPitch(*field);
@@ -211,7 +214,7 @@ EditableList::EditableList(QWidget* parent, std::string_view name,
   setEditable(true);
   setInsertPolicy(QComboBox::NoInsert);
   setCompleter(nullptr);
-  setValidator(new OneLine(this));
+  keepOnOneLine(*lineEdit());
   // The list would take a typed text that equals an item for a choice of that item.
   disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
   fill(*this, items);

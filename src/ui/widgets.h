@@ -26,6 +26,9 @@ namespace tarnwick::ui {
 // Makes a one-line field just wide enough to show the text whole.
 void fitWidth(QLineEdit& field, std::string_view widest);
 
+// Makes a one-line field take a pasted line break as the blank that it is shown as.
+void keepOnOneLine(QLineEdit& field);
+
 // Answers the object name of a member of an indexed family: "oPrescaller(3)".
 [[nodiscard]] std::string indexed(std::string_view family, int index);
 
