@@ -30,6 +30,13 @@ void giveNames(QWidget& control, std::string_view name, std::string_view accessi
   control.setAccessibleName(toQt(accessibleName));
 }
 
+template <typename Control>
+Control* captioned(QWidget* parent, std::string_view name, std::string_view caption) {
+  auto* control = new Control(toQt(caption), parent);
+  giveNames(*control, name, caption);
+  return control;
+}
+
 void fill(QComboBox& list, std::span<const std::string_view> items) {
   for (const std::string_view item : items) list.addItem(toQt(item));
 }
@@ -149,9 +156,8 @@ void ResultColumn::setContents(std::string_view text) {
 OptionGroup::OptionGroup(QWidget* parent, std::string_view family, std::span<const Option> options)
     : QObject(parent) {
   for (const Option& option : options) {
-    auto* radio = new QRadioButton(toQt(option.caption), parent);
-    giveNames(*radio, indexed(family, option.index), option.caption);
-    group_.addButton(radio, option.index);
+    const std::string name = indexed(family, option.index);
+    group_.addButton(captioned<QRadioButton>(parent, name, option.caption), option.index);
   }
   connect(&group_, &QButtonGroup::idToggled, this, [this](int index, bool on) {
     if (on) emit chosen(index);
@@ -233,15 +239,11 @@ void EditableList::choose(int index) {
 }
 
 QCheckBox* checkBox(QWidget* parent, std::string_view name, std::string_view caption) {
-  auto* box = new QCheckBox(toQt(caption), parent);
-  giveNames(*box, name, caption);
-  return box;
+  return captioned<QCheckBox>(parent, name, caption);
 }
 
 QPushButton* button(QWidget* parent, std::string_view name, std::string_view caption) {
-  auto* push = new QPushButton(toQt(caption), parent);
-  giveNames(*push, name, caption);
-  return push;
+  return captioned<QPushButton>(parent, name, caption);
 }
 
 QLabel* label(QWidget* parent, std::string_view name, std::string_view text) {
@@ -253,9 +255,7 @@ QLabel* label(QWidget* parent, std::string_view name, std::string_view text) {
 }
 
 QGroupBox* group(QWidget* parent, std::string_view name, std::string_view caption) {
-  auto* box = new QGroupBox(toQt(caption), parent);
-  giveNames(*box, name, caption);
-  return box;
+  return captioned<QGroupBox>(parent, name, caption);
 }
 
 void nameAfter(QWidget* control, std::string_view labelText) {
