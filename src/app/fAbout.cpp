@@ -15,7 +15,9 @@ namespace {
 
 namespace product = common::product;
 
-const std::string caption = "About " + std::string(product::title);
+std::string caption() {
+  return "About " + std::string(product::title);
+}
 
 std::string versionLine() {
   using common::wholeText;
@@ -32,7 +34,7 @@ QFrame* separator(QWidget* parent, int index) {
 
 }  // namespace
 
-fAbout::fAbout() : Window("fAbout", caption) {
+fAbout::fAbout() : Window("fAbout", caption()) {
   auto* picIcon = ui::label(this, "picIcon", "");
   picIcon->setPixmap(windowIcon().pixmap(48));
   picIcon->setAccessibleName(ui::toQt(product::name));

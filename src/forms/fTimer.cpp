@@ -153,15 +153,18 @@ void fTimer::oPrescaller_Click(int index) {
 void fTimer::tPreLoad_Validate() {
   const std::int32_t most = Is8Bit ? 255 : 65535;
   if (tPreLoad->number() > most) tPreLoad->setContents(common::wholeText(most));
-  const double atZero = Is8Bit ? 0 : halfOf16Bits;
-  scrollpreload->refreshPosition(common::toWhole<std::int32_t>(tPreLoad->number() - atZero));
+  const double position = tPreLoad->number() - preloadAtZero();
+  scrollpreload->refreshPosition(common::toWhole<std::int32_t>(position));
   DoCalc();
 }
 
 void fTimer::scrollpreload_Change() {
-  const int value = scrollpreload->value() + (Is8Bit ? 0 : halfOf16Bits);
-  tPreLoad->setContents(common::numberText(value));
+  tPreLoad->setContents(common::numberText(scrollpreload->value() + preloadAtZero()));
   DoCalc();
+}
+
+int fTimer::preloadAtZero() const {
+  return Is8Bit ? 0 : halfOf16Bits;
 }
 
 void fTimer::tReload_Validate() {

@@ -9,6 +9,7 @@
 #include <QSignalBlocker>
 
 #include <algorithm>
+#include <string>
 
 namespace tarnwick::forms {
 namespace {
@@ -24,17 +25,33 @@ void selectQuietly(ui::OptionGroup& units, calc::DelayUnit unit) {
   units.select(static_cast<int>(unit));
 }
 
+// Makes the columns of one width; its digits end their names.
+void addColumns(QGroupBox* frame, const std::string& width, WidthResults& results) {
+  auto* grid = ui::grid(frame);
+  const std::string_view widestPreload = width == "8" ? "255" : "65535";
+  results.tPreload = ui::headedColumn(grid, "tPreload" + width, "Preload", widestPreload, lines);
+  results.tPrescaler = ui::headedColumn(grid, "tPrescaler" + width, "Prescaler", "1:256", lines);
+  results.tCalc = ui::headedColumn(grid, "tCalc" + width, "Calc", widestCalc, lines);
+  results.tERR = ui::headedColumn(grid, "tERR" + width, "Error %", "00.000 %", lines);
+}
+
+// Makes the fields of the best match of one width.
+void addBest(QGroupBox* frame, const std::string& width, WidthResults& results) {
+  results.tfPreload = new ui::ResultField(frame, "tfPreload" + width, "000000");
+  results.tfPrescaler = new ui::ResultField(frame, "tfPrescaler" + width, "000000");
+  results.tfERR = new ui::ResultField(frame, "tfERR" + width, "00.000");
+}
+
 // Lays out the best match of one width: a caption and the three fields below it.
-void layOutBest(QHBoxLayout* bests, std::string_view width, ui::ResultField* preload,
-                ui::ResultField* prescaler, ui::ResultField* error) {
+void layOutBest(QHBoxLayout* bests, std::string_view width, const WidthResults& results) {
   auto* best = ui::grid(nullptr);
   best->setContentsMargins(0, 0, 0, 0);
   bests->addLayout(best);
   const std::string suffix = "(" + std::string(width) + ")";
   best->addWidget(ui::label(bests->parentWidget(), "Best" + suffix, width), 0, 1);
-  ui::labelledRow(best, "Preload" + suffix, "Preload :", preload);
-  ui::labelledRow(best, "Prescaler" + suffix, "Prescaler :", prescaler);
-  ui::labelledRow(best, "Error" + suffix, "Error % :", error);
+  ui::labelledRow(best, "Preload" + suffix, "Preload :", results.tfPreload);
+  ui::labelledRow(best, "Prescaler" + suffix, "Prescaler :", results.tfPrescaler);
+  ui::labelledRow(best, "Error" + suffix, "Error % :", results.tfERR);
 }
 
 }  // namespace
@@ -75,30 +92,17 @@ void fTimerHelper::layOut() {
   ui::row(Frame2, {tReload, HScroll1});
 
   auto* Frame3 = ui::group(this, "Frame3", "8 Bit timer results");
-  auto* results8 = ui::grid(Frame3);
-  tPreload8 = ui::headedColumn(results8, "tPreload8", "Preload", "255", lines);
-  tPrescaler8 = ui::headedColumn(results8, "tPrescaler8", "Prescaler", "1:256", lines);
-  tCalc8 = ui::headedColumn(results8, "tCalc8", "Calc", widestCalc, lines);
-  tERR8 = ui::headedColumn(results8, "tERR8", "Error %", "00.000 %", lines);
-
+  addColumns(Frame3, "8", results8_);
   auto* Frame1 = ui::group(this, "Frame1", "16 Bit timer results");
-  auto* results16 = ui::grid(Frame1);
-  tPreload16 = ui::headedColumn(results16, "tPreload16", "Preload", "65535", lines);
-  tPrescaler16 = ui::headedColumn(results16, "tPrescaler16", "Prescaler", "1:256", lines);
-  tCalc16 = ui::headedColumn(results16, "tCalc16", "Calc", widestCalc, lines);
-  tERR16 = ui::headedColumn(results16, "tERR16", "Error %", "00.000 %", lines);
+  addColumns(Frame1, "16", results16_);
 
   auto* Frame4 = ui::group(this, "Frame4", "Best match");
-  tfPreload8 = new ui::ResultField(Frame4, "tfPreload8", "000000");
-  tfPrescaler8 = new ui::ResultField(Frame4, "tfPrescaler8", "000000");
-  tfERR8 = new ui::ResultField(Frame4, "tfERR8", "00.000");
-  tfPreload16 = new ui::ResultField(Frame4, "tfPreload16", "000000");
-  tfPrescaler16 = new ui::ResultField(Frame4, "tfPrescaler16", "000000");
-  tfERR16 = new ui::ResultField(Frame4, "tfERR16", "00.000");
+  addBest(Frame4, "8", results8_);
+  addBest(Frame4, "16", results16_);
   ui::row(Frame4, {});
   auto* bests = static_cast<QHBoxLayout*>(Frame4->layout());
-  layOutBest(bests, "8 Bit", tfPreload8, tfPrescaler8, tfERR8);
-  layOutBest(bests, "16 Bit", tfPreload16, tfPrescaler16, tfERR16);
+  layOutBest(bests, "8 Bit", results8_);
+  layOutBest(bests, "16 Bit", results16_);
 
   auto* window = ui::grid(this);
   window->addWidget(frameOsc, 0, 0);
@@ -144,14 +148,14 @@ void fTimerHelper::Calculate(int Max) {
   const calc::TimerMatches matches = calc::searchTimer(Max, goal_);
   MatchCount = matches.MatchCount;
   const calc::TimerMatchTexts texts = calc::timerMatchTexts(matches, goal_.unit);
-  const bool is8Bit = Max == counts8;
-  (is8Bit ? tPreload8 : tPreload16)->setContents(texts.preload);
-  (is8Bit ? tPrescaler8 : tPrescaler16)->setContents(texts.prescaler);
-  (is8Bit ? tCalc8 : tCalc16)->setContents(texts.calc);
-  (is8Bit ? tERR8 : tERR16)->setContents(texts.error);
-  (is8Bit ? tfPreload8 : tfPreload16)->setContents(texts.bestPreload);
-  (is8Bit ? tfPrescaler8 : tfPrescaler16)->setContents(texts.bestPrescaler);
-  (is8Bit ? tfERR8 : tfERR16)->setContents(texts.bestError);
+  const WidthResults& results = Max == counts8 ? results8_ : results16_;
+  results.tPreload->setContents(texts.preload);
+  results.tPrescaler->setContents(texts.prescaler);
+  results.tCalc->setContents(texts.calc);
+  results.tERR->setContents(texts.error);
+  results.tfPreload->setContents(texts.bestPreload);
+  results.tfPrescaler->setContents(texts.bestPrescaler);
+  results.tfERR->setContents(texts.bestError);
 }
 
 void fTimerHelper::tOSC_Validate() {

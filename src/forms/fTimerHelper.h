@@ -9,6 +9,17 @@
 
 namespace tarnwick::forms {
 
+// The result fields of one timer width: the matches, one a line, and the best of them.
+struct WidthResults {
+  ui::ResultColumn* tPreload = nullptr;
+  ui::ResultColumn* tPrescaler = nullptr;
+  ui::ResultColumn* tCalc = nullptr;
+  ui::ResultColumn* tERR = nullptr;
+  ui::ResultField* tfPreload = nullptr;
+  ui::ResultField* tfPrescaler = nullptr;
+  ui::ResultField* tfERR = nullptr;
+};
+
 // Timer helper: which prescaler and preload give a wanted interrupt period or frequency.
 class fTimerHelper : public ui::Window {
 public:
@@ -37,20 +48,8 @@ private:
   ui::OptionGroup* omSecuSec;
   ui::EntryField* tReload;
   ui::Slider* HScroll1;
-  ui::ResultColumn* tPreload8;
-  ui::ResultColumn* tPrescaler8;
-  ui::ResultColumn* tCalc8;
-  ui::ResultColumn* tERR8;
-  ui::ResultColumn* tPreload16;
-  ui::ResultColumn* tPrescaler16;
-  ui::ResultColumn* tCalc16;
-  ui::ResultColumn* tERR16;
-  ui::ResultField* tfPreload8;
-  ui::ResultField* tfPrescaler8;
-  ui::ResultField* tfERR8;
-  ui::ResultField* tfPreload16;
-  ui::ResultField* tfPrescaler16;
-  ui::ResultField* tfERR16;
+  WidthResults results8_;
+  WidthResults results16_;
 
   common::OscillatorSetting& oscillator_;
   calc::TimerGoal goal_;

@@ -37,12 +37,16 @@ bool isControlCombination(const QKeyEvent& event) {
 }  // namespace
 
 EntryField::EntryField(QWidget* parent, std::string_view name, const EntryFieldTraits& traits)
-    : QLineEdit(parent), traits_(traits) {
+    : QLineEdit(parent),
+      keys_(traits.keys),
+      pointTyped_(traits.pointTyped),
+      clearsPointOnEntering_(traits.clearsPointOnEntering),
+      validatesOnFocusLost_(traits.validatesOnFocusLost) {
   setObjectName(toQt(name));
   setMaxLength(traits.maxLength);
+  keepOnOneLine(*this);
   setAlignment(Qt::AlignCenter);
-  setInputMethodHints(traits.pointTyped != nullptr ? Qt::ImhFormattedNumbersOnly
-                                                   : Qt::ImhDigitsOnly);
+  setInputMethodHints(pointTyped_ != nullptr ? Qt::ImhFormattedNumbersOnly : Qt::ImhDigitsOnly);
   fitWidth(*this, traits.widest);
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
@@ -60,22 +64,22 @@ void EntryField::setContents(std::string_view text) {
 }
 
 void EntryField::focusEntered() {
-  if (traits_.clearsPointOnEntering) *traits_.pointTyped = false;
+  if (clearsPointOnEntering_) *pointTyped_ = false;
   emit focusGained();
 }
 
 void EntryField::focusLeft() {
   emit validate();
-  if (traits_.validatesOnFocusLost) emit validate();
+  if (validatesOnFocusLost_) emit validate();
   emit focusLost();
 }
 
 QString EntryField::filtered(const QString& characters) {
   bool none = false;
-  bool& pointTyped = traits_.pointTyped != nullptr ? *traits_.pointTyped : none;
+  bool& pointTyped = pointTyped_ != nullptr ? *pointTyped_ : none;
   QString accepted;
   for (const QChar character : characters) {
-    const common::KeyVerdict verdict = traits_.keys(character.unicode(), pointTyped);
+    const common::KeyVerdict verdict = keys_(character.unicode(), pointTyped);
     pointTyped = verdict.pointTyped;
     if (verdict.accepted) accepted += character;
     if (!verdict.enter) continue;

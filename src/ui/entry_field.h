@@ -20,13 +20,14 @@ struct EntryFieldTraits {
   // Leaving the field validates it once more in its focus-lost step.
   bool validatesOnFocusLost = false;
   int maxLength = 32767;
-  // The longest text that the field is to show whole.
+  // The longest text that the field is to show whole; read while the field is made.
   std::string_view widest = "00000000";
 };
 
 // A one-line field for a number. Typed characters pass the key filter, whether they come by keys
-// or by an input method; pasted text does not. Enter validates and then reports `entered`; moving
-// to another control of the window validates and then reports `focusLost`.
+// or by an input method; pasted text does not, but stays on one line. Enter validates and then
+// reports `entered`; moving to another control of the window validates and then reports
+// `focusLost`.
 class EntryField : public QLineEdit, public FocusListener {
   Q_OBJECT
 
@@ -56,7 +57,10 @@ private:
   // Passes the characters through the key filter and answers those that may be inserted.
   QString filtered(const QString& characters);
 
-  EntryFieldTraits traits_;
+  decltype(EntryFieldTraits::keys) keys_;
+  bool* pointTyped_;
+  bool clearsPointOnEntering_;
+  bool validatesOnFocusLost_;
 };
 
 }  // namespace tarnwick::ui

@@ -14,7 +14,6 @@
 namespace tarnwick::ui {
 namespace {
 
-// A line break would be shown as a blank and copied as a line break; this makes it a blank.
 class OneLine : public QValidator {
 public:
   using QValidator::QValidator;
@@ -29,6 +28,13 @@ public:
 void giveNames(QWidget& control, std::string_view name, std::string_view accessibleName) {
   control.setObjectName(toQt(name));
   control.setAccessibleName(toQt(accessibleName));
+}
+
+template <typename Control>
+Control* captioned(QWidget* parent, std::string_view name, std::string_view caption) {
+  auto* control = new Control(toQt(caption), parent);
+  giveNames(*control, name, caption);
+  return control;
 }
 
 void fill(QComboBox& list, std::span<const std::string_view> items) {
@@ -79,13 +85,17 @@ void fitWidth(QLineEdit& field, std::string_view widest) {
       field.style()->sizeFromContents(QStyle::CT_LineEdit, &option, text, &field).width());
 }
 
+void keepOnOneLine(QLineEdit& field) {
+  field.setValidator(new OneLine(&field));
+}
+
 void useFixedPitch(QWidget& control) {
   control.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
 }
 
 QLineEdit* textField(QWidget* parent, std::string_view name, int maxLength) {
   auto* field = new QLineEdit(parent);
-  field->setValidator(new OneLine(field));
+  keepOnOneLine(*field);
   field->setObjectName(toQt(name));
   field->setMaxLength(maxLength);
   useFixedPitch(*field);
@@ -146,9 +156,8 @@ void ResultColumn::setContents(std::string_view text) {
 OptionGroup::OptionGroup(QWidget* parent, std::string_view family, std::span<const Option> options)
     : QObject(parent) {
   for (const Option& option : options) {
-    auto* radio = new QRadioButton(toQt(option.caption), parent);
-    giveNames(*radio, indexed(family, option.index), option.caption);
-    group_.addButton(radio, option.index);
+    const std::string name = indexed(family, option.index);
+    group_.addButton(captioned<QRadioButton>(parent, name, option.caption), option.index);
   }
   connect(&group_, &QButtonGroup::idToggled, this, [this](int index, bool on) {
     if (on) emit chosen(index);
@@ -211,7 +220,7 @@ EditableList::EditableList(QWidget* parent, std::string_view name,
   setEditable(true);
   setInsertPolicy(QComboBox::NoInsert);
   setCompleter(nullptr);
-  setValidator(new OneLine(this));
+  keepOnOneLine(*lineEdit());
   // The list would take a typed text that equals an item for a choice of that item.
   disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
   fill(*this, items);
@@ -224,25 +233,17 @@ std::string EditableList::contents() const {
   return fromQt(currentText());
 }
 
-void EditableList::setContents(std::string_view text) {
-  setEditText(toQt(text));
-}
-
 void EditableList::choose(int index) {
   setCurrentIndex(index);
   emit chosen(index);
 }
 
 QCheckBox* checkBox(QWidget* parent, std::string_view name, std::string_view caption) {
-  auto* box = new QCheckBox(toQt(caption), parent);
-  giveNames(*box, name, caption);
-  return box;
+  return captioned<QCheckBox>(parent, name, caption);
 }
 
 QPushButton* button(QWidget* parent, std::string_view name, std::string_view caption) {
-  auto* push = new QPushButton(toQt(caption), parent);
-  giveNames(*push, name, caption);
-  return push;
+  return captioned<QPushButton>(parent, name, caption);
 }
 
 QLabel* label(QWidget* parent, std::string_view name, std::string_view text) {
@@ -254,9 +255,7 @@ QLabel* label(QWidget* parent, std::string_view name, std::string_view text) {
 }
 
 QGroupBox* group(QWidget* parent, std::string_view name, std::string_view caption) {
-  auto* box = new QGroupBox(toQt(caption), parent);
-  giveNames(*box, name, caption);
-  return box;
+  return captioned<QGroupBox>(parent, name, caption);
 }
 
 void nameAfter(QWidget* control, std::string_view labelText) {

@@ -26,6 +26,9 @@ namespace tarnwick::ui {
 // Makes a one-line field just wide enough to show the text whole.
 void fitWidth(QLineEdit& field, std::string_view widest);
 
+// Makes a one-line field take a pasted line break as the blank that it is shown as.
+void keepOnOneLine(QLineEdit& field);
+
 // Answers the object name of a member of an indexed family: "oPrescaller(3)".
 [[nodiscard]] std::string indexed(std::string_view family, int index);
 
@@ -141,8 +144,6 @@ public:
                std::string_view widest);
 
   [[nodiscard]] std::string contents() const;
-  // Sets the text without choosing an item; `edited` is raised when it is another text.
-  void setContents(std::string_view text);
   // Selects an item from code; `chosen` is raised as when a user picks it.
   void choose(int index);
 
