@@ -11,6 +11,7 @@ namespace tarnwick::ui {
 namespace {
 
 const QString enter = QStringLiteral("\r");
+constexpr QChar erase(8);  // as a key it edits; an input method has commands of its own
 
 // Keys that edit the text without producing a character, whatever text they carry.
 bool isEditingKey(int key) {
@@ -81,7 +82,7 @@ QString EntryField::filtered(const QString& characters) {
   for (const QChar character : characters) {
     const common::KeyVerdict verdict = keys_(character.unicode(), pointTyped);
     pointTyped = verdict.pointTyped;
-    if (verdict.accepted) accepted += character;
+    if (verdict.accepted && character != erase) accepted += character;
     if (!verdict.enter) continue;
     emit validate();
     emit entered();
