@@ -117,8 +117,8 @@ TEST_F(EveryWindow, NamesItsControlsAndShowsTheirTextsWhole) {
   }
 }
 
-// Where the Tab key (Shift+Tab, back) leads from a control until it comes round; each control on the
-// way looks different while it has the focus.
+// Where the Tab key (Shift+Tab, back) leads from a control until it comes round; each control on
+// the way looks different while it has the focus.
 QWidgetList stopsFrom(QWidget* first, Qt::Key key) {
   QWidgetList stops;
   first->setFocus(Qt::TabFocusReason);
@@ -133,16 +133,18 @@ QWidgetList stopsFrom(QWidget* first, Qt::Key key) {
   return stops;
 }
 
-QRect placeOf(const QWidget* control) {
-  return {control->mapTo(control->window(), QPoint()), control->size()};
+// The part of a window that holds one control and not the other.
+const QWidget* partBeside(const QWidget* control, const QWidget* other) {
+  while (!control->parentWidget()->isAncestorOf(other)) control = control->parentWidget();
+  return control;
 }
 
 // Going on is going right or down, in rows or in columns, and one group after the other.
 void expectReadingOrder(const QWidgetList& stops) {
   std::set<const QWidget*> groups{stops.front()->parentWidget()};
   for (int i = 1; i < stops.size(); ++i) {
-    const QRect from = placeOf(stops[i - 1]);
-    const QRect to = placeOf(stops[i]);
+    const QRect from = partBeside(stops[i - 1], stops[i])->geometry();
+    const QRect to = partBeside(stops[i], stops[i - 1])->geometry();
     const bool onward = (to.bottom() >= from.top() || to.left() > from.right()) &&
                         (to.right() >= from.left() || to.top() > from.bottom());
     const QWidget* group = stops[i]->parentWidget();
