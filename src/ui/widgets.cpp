@@ -181,8 +181,11 @@ OptionGroup::OptionGroup(QWidget* parent, std::string_view family, std::span<con
     group_.addButton(captioned<QRadioButton>(parent, name, option.caption), option.index);
   }
   connect(&group_, &QButtonGroup::idToggled, this, [this](int index, bool on) {
+    // The Tab key stops at the option that is selected; the toolkit leads it to the first one.
+    button(index)->setFocusPolicy(on ? Qt::StrongFocus : Qt::ClickFocus);
     if (on) emit chosen(index);
   });
+  for (QAbstractButton* option : group_.buttons()) option->setFocusPolicy(Qt::ClickFocus);
 }
 
 QRadioButton* OptionGroup::button(int index) const {

@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QSlider>
 
 #include <algorithm>
@@ -153,8 +154,10 @@ void expectReadingOrder(const QWidgetList& stops) {
   }
 }
 
-// The arrow keys move inside an option group and inside the grid.
+// The Tab key stops at the selected option; the arrow keys move in its group, and inside the grid.
 bool reaches(const QWidget* stop, const QWidget* control) {
+  const auto* option = qobject_cast<const QRadioButton*>(stop);
+  if (option != nullptr && !option->isChecked()) return false;
   const bool arrows = control->inherits("QRadioButton") ||
                       qobject_cast<ui::PixelGrid*>(control->parentWidget()) != nullptr;
   return stop == control || (arrows && stop->metaObject() == control->metaObject() &&
