@@ -107,6 +107,7 @@ void fMain::layOutButtons(QWidget* client) {
 
 QMenuBar* fMain::makeMenu() {
   auto* menu = new QMenuBar(this);
+  menu->setAccessibleName(QStringLiteral("Commands"));
   menu->setNativeMenuBar(false);  // a desktop's own menu bar leaves out commands without submenus
   const auto add = [&](std::string_view name, std::string_view caption, auto command) {
     QAction* action = menu->addAction(ui::toQt(caption), this, command);

@@ -328,8 +328,11 @@ void fCustomCharacter::showCharacters() {
   }
   oChar->select(kept.SelectedSlot);
   chk->setPixels(kept.Pixels);
-  for (std::size_t row = 0; row < lLine.size(); ++row)
+  for (std::size_t row = 0; row < lLine.size(); ++row) {
     lLine[row]->setText(ui::toQt(shown.lLine[row]));
+    const std::string number = common::wholeText(static_cast<int>(row) + 1);
+    ui::nameAfter(lLine[row], "Row " + number + ", " + shown.lLine[row]);
+  }
   Image2->setPixels(kept.Pixels);
   Image2->setTexts(shown.leadText, shown.followText);
 }

@@ -4,6 +4,7 @@
 #include "common/rounding.h"
 #include "forms/oscillator_field.h"
 #include "ui/layout.h"
+#include "ui/text.h"
 
 #include <QHBoxLayout>
 #include <QSignalBlocker>
@@ -52,6 +53,8 @@ void layOutBest(QHBoxLayout* bests, std::string_view width, const WidthResults& 
   ui::labelledRow(best, "Preload" + suffix, "Preload :", results.tfPreload);
   ui::labelledRow(best, "Prescaler" + suffix, "Prescaler :", results.tfPrescaler);
   ui::labelledRow(best, "Error" + suffix, "Error % :", results.tfERR);
+  for (QWidget* field : {results.tfPreload, results.tfPrescaler, results.tfERR})
+    ui::nameAfter(field, std::string(width) + ", " + ui::fromQt(field->accessibleName()));
 }
 
 }  // namespace

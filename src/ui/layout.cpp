@@ -4,11 +4,35 @@
 
 #include <QHBoxLayout>
 
+#include <map>
+#include <string>
+#include <vector>
+
 namespace tarnwick::ui {
 namespace {
 
 constexpr int margin = 10;
 constexpr int spacing = 8;
+
+std::string groupsAround(const QWidget& control) {
+  std::string captions;
+  for (const QWidget* around = control.parentWidget(); around; around = around->parentWidget())
+    if (const auto* group = qobject_cast<const QGroupBox*>(around))
+      captions.insert(0, fromQt(group->title()) + ", ");
+  return captions;
+}
+
+void tellApart(const QWidget& window) {
+  std::map<QString, std::vector<QWidget*>> byName;
+  for (auto* control : window.findChildren<QWidget*>()) {
+    const bool isPart = qobject_cast<QComboBox*>(control->parentWidget()) != nullptr;
+    if (control->focusPolicy() != Qt::NoFocus && !isPart)
+      byName[control->accessibleName()].push_back(control);
+  }
+  for (const auto& [name, controls] : byName)
+    for (QWidget* control : controls)
+      if (controls.size() > 1) nameAfter(control, groupsAround(*control) + fromQt(name));
+}
 
 }  // namespace
 
@@ -54,6 +78,7 @@ void packTopLeft(QGridLayout* grid) {
 }
 
 void fixToContent(QWidget* window) {
+  tellApart(*window);
   window->layout()->setSizeConstraint(QLayout::SetFixedSize);
 }
 

@@ -45,6 +45,7 @@ QLineEdit* lockedText(QWidget* parent, std::string_view name, Qt::Alignment alig
 
 LcdPanel::LcdPanel(QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("Image2"));
+  nameAfter(this, "LCD");
   setPalette(lcdPalette(palette()));
   setAutoFillBackground(true);
 

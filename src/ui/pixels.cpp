@@ -90,6 +90,7 @@ private:
 }  // namespace
 
 PixelGrid::PixelGrid(QWidget* parent, std::string_view family) : QWidget(parent) {
+  nameAfter(this, "Pixels");
   setFixedSize((columns - 1) * cellPitch + cellSize, (rows - 1) * cellPitch + cellSize);
   for (int i = 0; i < rows * columns; ++i) {
     // From the top left on, so that cells are found in reading order.

@@ -5,6 +5,7 @@
 
 #include <QEvent>
 #include <QFontDatabase>
+#include <QPainter>
 #include <QSignalBlocker>
 #include <QStyleOptionFrame>
 #include <QValidator>
@@ -65,6 +66,13 @@ private:
   QWidget* result_;
 };
 
+// Shows that a control has the focus where its style does not.
+void outline(QWidget& control) {
+  QPainter painter(&control);
+  painter.setPen(control.palette().color(QPalette::Highlight));
+  painter.drawRect(control.rect().adjusted(0, 0, -1, -1));
+}
+
 }  // namespace
 
 std::string indexed(std::string_view family, int index) {
@@ -120,6 +128,12 @@ void ResultField::setContents(std::string_view text) {
   setText(toQt(text));
 }
 
+// Without a frame, the toolkit would not show the focus on an empty field.
+void ResultField::paintEvent(QPaintEvent* event) {
+  QLineEdit::paintEvent(event);
+  if (hasFocus() && !hasFrame()) outline(*this);
+}
+
 void alignInColumn(ResultField& field, std::string_view widest) {
   useFixedPitch(field);
   field.setAlignment(Qt::AlignRight);
@@ -153,6 +167,13 @@ void ResultColumn::setContents(std::string_view text) {
   if (lines != toPlainText()) setPlainText(lines);
 }
 
+// The toolkit draws the frame of a column alike with and without the focus.
+bool ResultColumn::event(QEvent* event) {
+  const bool done = QPlainTextEdit::event(event);
+  if (event->type() == QEvent::Paint && hasFocus()) outline(*this);
+  return done;
+}
+
 OptionGroup::OptionGroup(QWidget* parent, std::string_view family, std::span<const Option> options)
     : QObject(parent) {
   for (const Option& option : options) {
@@ -160,8 +181,11 @@ OptionGroup::OptionGroup(QWidget* parent, std::string_view family, std::span<con
     group_.addButton(captioned<QRadioButton>(parent, name, option.caption), option.index);
   }
   connect(&group_, &QButtonGroup::idToggled, this, [this](int index, bool on) {
+    // The Tab key stops at the option that is selected; the toolkit leads it to the first one.
+    button(index)->setFocusPolicy(on ? Qt::StrongFocus : Qt::ClickFocus);
     if (on) emit chosen(index);
   });
+  for (QAbstractButton* option : group_.buttons()) option->setFocusPolicy(Qt::ClickFocus);
 }
 
 QRadioButton* OptionGroup::button(int index) const {
@@ -243,14 +267,16 @@ QCheckBox* checkBox(QWidget* parent, std::string_view name, std::string_view cap
 }
 
 QPushButton* button(QWidget* parent, std::string_view name, std::string_view caption) {
-  return captioned<QPushButton>(parent, name, caption);
+  auto* push = captioned<QPushButton>(parent, name, caption);
+  push->setAutoDefault(true);  // Enter presses it
+  return push;
 }
 
 QLabel* label(QWidget* parent, std::string_view name, std::string_view text) {
   auto* plain = new QLabel(parent);
   plain->setTextFormat(Qt::PlainText);
   plain->setText(toQt(text));
-  giveNames(*plain, name, text);
+  plain->setObjectName(toQt(name));
   return plain;
 }
 
@@ -260,7 +286,12 @@ QGroupBox* group(QWidget* parent, std::string_view name, std::string_view captio
 
 void nameAfter(QWidget* control, std::string_view labelText) {
   while (labelText.ends_with(':') || labelText.ends_with(' ')) labelText.remove_suffix(1);
-  control->setAccessibleName(toQt(labelText));
+  const QString name = toQt(labelText);
+  control->setAccessibleName(name);
+  auto* list = qobject_cast<QComboBox*>(control);
+  if (list == nullptr) return;
+  list->setAccessibleDescription(name);  // its name, says the toolkit, is the current item
+  if (list->isEditable()) list->lineEdit()->setAccessibleName(name);
 }
 
 }  // namespace tarnwick::ui

@@ -48,6 +48,9 @@ public:
 
   [[nodiscard]] std::string contents() const;
   void setContents(std::string_view text);
+
+protected:
+  void paintEvent(QPaintEvent* event) override;
 };
 
 // Makes a result field one of a column: fixed-pitch, right-aligned and as wide as `widest`, so that
@@ -66,6 +69,9 @@ public:
   [[nodiscard]] const std::string& contents() const { return contents_; }
   void setContents(std::string_view text);
   [[nodiscard]] QSize sizeHint() const override { return minimumSize(); }
+
+protected:
+  bool event(QEvent* event) override;
 
 private:
   std::string contents_;
@@ -157,7 +163,8 @@ signals:
   void focusLost();
 };
 
-// A check box, a button, a label (plain text) with their design names.
+// A check box, a button (Enter presses it as Space does), a label (plain text, which is also what
+// an assistive tool calls it) with their design names.
 [[nodiscard]] QCheckBox* checkBox(QWidget* parent, std::string_view name, std::string_view caption);
 [[nodiscard]] QPushButton* button(QWidget* parent, std::string_view name, std::string_view caption);
 [[nodiscard]] QLabel* label(QWidget* parent, std::string_view name, std::string_view text);
@@ -165,7 +172,8 @@ signals:
 // A captioned group; its controls are its children.
 [[nodiscard]] QGroupBox* group(QWidget* parent, std::string_view name, std::string_view caption);
 
-// Gives a control the name that assistive tools announce: a label's text without its colon.
+// Gives a control the name that assistive tools announce: a label's text without its colon. A
+// drop-down list, which they call by its current item, has it as description.
 void nameAfter(QWidget* control, std::string_view labelText);
 
 }  // namespace tarnwick::ui

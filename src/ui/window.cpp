@@ -1,5 +1,6 @@
 #include "ui/window.h"
 
+#include "ui/accessible.h"
 #include "ui/text.h"
 
 #include <QApplication>
@@ -56,6 +57,7 @@ FocusListener* listener(QWidget* control) {
 Window::Window(std::string_view name, std::string_view caption)
     : QWidget(nullptr, Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                            Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint) {
+  serveAssistiveTools();
   setObjectName(toQt(name));
   setWindowTitle(toQt(caption));
   setAccessibleName(toQt(caption));
