@@ -6,6 +6,7 @@
 #include "ui/widgets.h"
 
 #include <QFont>
+#include <QFontInfo>
 #include <QFontMetrics>
 #include <QMenuBar>
 #include <QPixmap>
@@ -14,6 +15,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <string>
 #include <string_view>
 
@@ -51,20 +53,28 @@ constexpr std::array<std::string_view, 11> unloadOrder{
     "fAbout", "fComparator",   "fCustomCharacter", "fEUSART",      "fMain", "fMinADTime",
     "fPWM",   "fSerinSerout2", "fTimer",           "fTimerHelper", "fUSART"};
 
-// Answers the font, made smaller where the widest caption would not fit a button whole.
-QFont fittingFont(QFont font) {
+// How many times larger than this the font may be for every caption to fit its button.
+double room(const QFont& font) {
   constexpr int marginX = 8;
   constexpr int marginY = 4;
+  const QFontMetricsF metrics(font);
+  double room = (buttonSize.height() - marginY) / metrics.height();
+  for (const LauncherButton& button : launcherButtons)
+    room = std::min(
+        room, (buttonSize.width() - marginX) / metrics.horizontalAdvance(ui::toQt(button.caption)));
+  return room;
+}
+
+// Answers the font, made smaller where the widest caption would not fit a button whole. To load a
+// size takes a noticeable part of the start: the first guess fits.
+QFont fittingFont(QFont font) {
   constexpr double step = 0.5;
   constexpr double smallest = 5;
-  const auto fits = [](const QFont& candidate) {
-    const QFontMetrics metrics(candidate);
-    if (metrics.height() + marginY > buttonSize.height()) return false;
-    return std::ranges::all_of(launcherButtons, [&](const LauncherButton& button) {
-      return metrics.horizontalAdvance(ui::toQt(button.caption)) + marginX <= buttonSize.width();
-    });
-  };
-  while (!fits(font) && font.pointSizeF() > smallest) font.setPointSizeF(font.pointSizeF() - step);
+  for (double fits = room(font); fits < 1; fits = room(font)) {
+    const double size = std::floor(QFontInfo(font).pointSizeF() * fits / step) * step;
+    if (size < smallest) break;
+    font.setPointSizeF(size);
+  }
   return font;
 }
 

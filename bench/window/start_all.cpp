@@ -1,0 +1,22 @@
+// The program with all of its windows open.
+
+#include "app/gen_var.h"
+#include "app/window_set.h"
+#include "app/windows.h"
+#include "painted.h"
+
+#include <QApplication>
+#include <QPushButton>
+
+int main(int argc, char* argv[]) {
+  using namespace tarnwick;
+  QApplication application(argc, argv);
+  bench::reportWhenPainted(11);
+  app::GenVar genVar;
+  app::WindowSet windows;
+  app::addWindows(windows, genVar);
+  windows.open("fMain");
+  windows.open("fAbout");
+  for (auto* button : windows.loaded("fMain")->findChildren<QPushButton*>()) button->click();
+  return QApplication::exec();
+}
