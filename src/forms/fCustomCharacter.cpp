@@ -85,7 +85,6 @@ QWidget* fCustomCharacter::layOutSettings() {
   setting(3, "lCommandUS", "Command (uSec)", tCommandUS);
   setting(4, "lDataUS", "Data (uSec)", tDataUS);
   table->addWidget(ui::label(group, "lBits", "bits"), 1, 6);
-  for (QLineEdit* delay : {tCommandUS, tDataUS}) delay->setFixedWidth(delay->minimumWidth());
   table->setColumnStretch(3, 1);
   table->setColumnStretch(7, 2);
   return group;
@@ -156,7 +155,7 @@ QWidget* fCustomCharacter::layOutPixels() {
     label = ui::label(parent, ui::indexed("lLine", row), "$00");
     ui::useFixedPitch(*label);
     width = label->sizeHint().width();
-    label->setGeometry(left, ui::PixelGrid::rowTop(row++), width, ui::PixelGrid::rowHeight());
+    label->setGeometry(left, chk->rowTop(row++), width, chk->rowHeight());
   }
   parent->setFixedSize(left + width, chk->height());
   return parent;

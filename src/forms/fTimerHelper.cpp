@@ -97,6 +97,7 @@ void fTimerHelper::layOut() {
   tfERR16 = new ui::ResultField(Frame4, "tfERR16", "00.000");
   ui::row(Frame4, {});
   auto* bests = static_cast<QHBoxLayout*>(Frame4->layout());
+  bests->setSpacing(2 * bests->spacing());
   layOutBest(bests, "8 Bit", tfPreload8, tfPrescaler8, tfERR8);
   layOutBest(bests, "16 Bit", tfPreload16, tfPrescaler16, tfERR16);
 

@@ -59,6 +59,10 @@ void EntryField::setContents(std::string_view text) {
   setText(toQt(text));
 }
 
+QSize EntryField::sizeHint() const {
+  return {minimumWidth(), QLineEdit::sizeHint().height()};
+}
+
 void EntryField::focusEntered() {
   if (traits_.clearsPointOnEntering) *traits_.pointTyped = false;
   emit focusGained();

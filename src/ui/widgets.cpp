@@ -110,6 +110,10 @@ void ResultField::setContents(std::string_view text) {
   setText(toQt(text));
 }
 
+QSize ResultField::sizeHint() const {
+  return {minimumWidth(), QLineEdit::sizeHint().height()};
+}
+
 void alignInColumn(ResultField& field, std::string_view widest) {
   useFixedPitch(field);
   field.setAlignment(Qt::AlignRight);

@@ -45,6 +45,7 @@ public:
 
   [[nodiscard]] std::string contents() const;
   void setContents(std::string_view text);
+  [[nodiscard]] QSize sizeHint() const override;
 };
 
 // Makes a result field one of a column: fixed-pitch, right-aligned and as wide as `widest`, so that
@@ -63,6 +64,7 @@ public:
   [[nodiscard]] const std::string& contents() const { return contents_; }
   void setContents(std::string_view text);
   [[nodiscard]] QSize sizeHint() const override { return minimumSize(); }
+  [[nodiscard]] QSize minimumSizeHint() const override { return minimumSize(); }
 
 private:
   std::string contents_;
