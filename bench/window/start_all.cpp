@@ -1,6 +1,7 @@
 // The program with all of its windows open.
 
 #include "app/gen_var.h"
+#include "app/program.h"
 #include "app/window_set.h"
 #include "app/windows.h"
 #include "painted.h"
@@ -10,7 +11,9 @@
 
 int main(int argc, char* argv[]) {
   using namespace tarnwick;
+  std::thread fonts = app::readFontsAhead();
   QApplication application(argc, argv);
+  if (fonts.joinable()) fonts.join();
   bench::reportWhenPainted(11);
   app::GenVar genVar;
   app::WindowSet windows;
