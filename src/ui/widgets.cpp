@@ -53,6 +53,8 @@ private:
   void apply() {
     QPalette own;
     own.setBrush(QPalette::Base, own.brush(QPalette::Window));
+    own.setBrush(QPalette::WindowText,
+                 own.brush(QPalette::Mid));  // what a plain frame is drawn with
     result_->setPalette(own);
   }
 
@@ -134,7 +136,12 @@ ResultColumn::ResultColumn(QWidget* parent, std::string_view name, std::string_v
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   useFixedPitch(*this);
   ensurePolished();
-  const int margins = 2 * (static_cast<int>(document()->documentMargin()) + frameWidth());
+  // The plain frame keeps its lines at fractional scale factors, with a gap to the text's
+  // background.
+  setFrameStyle(QFrame::Box | QFrame::Plain);
+  constexpr int gap = 1;
+  setViewportMargins(gap, gap, gap, gap);
+  const int margins = 2 * (frameWidth() + gap + static_cast<int>(document()->documentMargin()));
   setMinimumWidth(fontMetrics().horizontalAdvance(toQt(widest)) + margins + 1);
   setFixedHeight(fontMetrics().lineSpacing() * lines + margins + 1);
 }
