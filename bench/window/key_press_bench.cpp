@@ -1,5 +1,5 @@
-// From the press of Enter in an entry field to all fields of its window rewritten. Each press
-// finds another text in the field than the last, so that no result stays as it was.
+// From a key press to all fields of its window rewritten: Enter in an entry field, which each time
+// finds another text than the last, so that no result stays as it was; Space on a cell of the grid.
 
 #include "app/gen_var.h"
 #include "app/window_set.h"
@@ -20,8 +20,9 @@ namespace {
 
 struct Entry {
   const char* window;
-  const char* field;
+  const char* control;
   std::array<const char*, 2> texts;
+  Qt::Key key = Qt::Key_Return;
 };
 
 constexpr std::array entries{Entry{"fTimer", "tOSC", {"4", "20"}},
@@ -31,19 +32,23 @@ constexpr std::array entries{Entry{"fTimer", "tOSC", {"4", "20"}},
                              Entry{"fSerinSerout2", "tBaud", {"9600", "2400"}},
                              Entry{"fPWM", "tFreq", {"5", "5.1"}},
                              Entry{"fMinADTime", "tImpedance", {"10", "2.5"}},
-                             Entry{"fComparator", "tVdd", {"5", "3"}}};
+                             Entry{"fComparator", "tVdd", {"5", "3"}},
+                             Entry{"fCustomCharacter", "chk(12)", {}, Qt::Key_Space}};
 constexpr int presses = 2001;
 
 double medianMicroseconds(QWidget& window, const Entry& entry) {
-  auto* field = window.findChild<QLineEdit*>(QLatin1String(entry.field));
+  auto* control = window.findChild<QWidget*>(QLatin1String(entry.control));
+  auto* field = qobject_cast<QLineEdit*>(control);
   std::vector<double> times;
   for (std::size_t i = 0; i < presses; ++i) {
-    field->setFocus();
-    field->setText(QLatin1String(entry.texts[i % 2]));
+    control->setFocus();
+    if (field != nullptr) field->setText(QLatin1String(entry.texts[i % 2]));
     QApplication::processEvents();
-    QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"));
+    QKeyEvent press(QEvent::KeyPress, entry.key, Qt::NoModifier);
+    QKeyEvent release(QEvent::KeyRelease, entry.key, Qt::NoModifier);
     const auto start = std::chrono::steady_clock::now();
-    QApplication::sendEvent(field, &press);
+    QApplication::sendEvent(control, &press);
+    QApplication::sendEvent(control, &release);
     const std::chrono::duration<double, std::micro> taken =
         std::chrono::steady_clock::now() - start;
     times.push_back(taken.count());
@@ -63,7 +68,7 @@ int main(int argc, char* argv[]) {
   for (const Entry& entry : entries) {
     windows.open(entry.window);
     QApplication::processEvents();
-    std::printf("%-14s %-12s %7.1f us (median of %d)\n", entry.window, entry.field,
+    std::printf("%-17s %-12s %7.1f us (median of %d)\n", entry.window, entry.control,
                 medianMicroseconds(*windows.loaded(entry.window), entry), presses);
   }
   return 0;

@@ -1,5 +1,6 @@
-// Start-up time to the first painted window and resident memory: the launcher, its bare twin and
-// an empty window, run in turn on the display that is there. Prints medians and ratios.
+// Start-up time to the painted window, processor time and resident memory: the launcher, its bare
+// twin, an empty window and all windows of the program, run in turn on the display that is there.
+// Prints medians and ratios.
 //   start_bench [runs]
 
 #include <algorithm>
@@ -9,6 +10,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <string>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <vector>
@@ -17,12 +19,17 @@ namespace {
 
 struct Sample {
   double milliseconds = 0;
+  double processorMilliseconds = 0;
   double mebibytes = 0;
 };
 
 [[noreturn]] void fail(const std::string& program) {
   std::fprintf(stderr, "%s did not report\n", program.c_str());
   std::exit(EXIT_FAILURE);
+}
+
+double milliseconds(const timeval& time) {
+  return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_usec) / 1e3;
 }
 
 Sample runOnce(const std::string& program) {
@@ -42,9 +49,11 @@ Sample runOnce(const std::string& program) {
   std::FILE* reports = fdopen(pipeEnds[0], "r");
   if (std::fscanf(reports, "%lld %ld", &nanoseconds, &kibibytes) != 2) fail(program);
   std::fclose(reports);
-  waitpid(child, nullptr, 0);
+  rusage usage{};
+  wait4(child, nullptr, 0, &usage);
   const auto startNanoseconds = std::chrono::duration_cast<std::chrono::nanoseconds>(start).count();
   return {.milliseconds = static_cast<double>(nanoseconds - startNanoseconds) / 1e6,
+          .processorMilliseconds = milliseconds(usage.ru_utime) + milliseconds(usage.ru_stime),
           .mebibytes = static_cast<double>(kibibytes) / 1024};
 }
 
@@ -60,7 +69,9 @@ double median(const std::vector<Sample>& samples, double Sample::*value) {
 int main(int argc, char* argv[]) {
   const int runs = argc > 1 ? std::atoi(argv[1]) : 21;
   const auto folder = std::filesystem::canonical("/proc/self/exe").parent_path();
-  const std::array<std::string, 3> names{"start_tarnwick", "start_twin", "start_empty"};
+  const std::array<std::string, 4> names{"start_tarnwick", "start_twin", "start_empty",
+                                         "start_all"};
+  constexpr std::size_t twin = 1;
   std::array<std::vector<Sample>, names.size()> samples;
   for (int run = -2; run < runs; ++run) {  // the first two warm the caches
     for (std::size_t i = 0; i < names.size(); ++i) {
@@ -68,14 +79,15 @@ int main(int argc, char* argv[]) {
       if (run >= 0) samples[i].push_back(sample);
     }
   }
-  const double twinTime = median(samples[1], &Sample::milliseconds);
-  const double twinMemory = median(samples[1], &Sample::mebibytes);
-  std::printf("%-16s %10s %8s %10s %8s   (medians of %d runs)\n", "", "ms", "/ twin", "MiB",
-              "/ twin", runs);
+  std::printf("%-14s %8s %7s %8s %7s %8s %7s   (medians of %d runs)\n", "", "ms", "/ twin",
+              "CPU ms", "/ twin", "MiB", "/ twin", runs);
   for (std::size_t i = 0; i < names.size(); ++i) {
-    const double time = median(samples[i], &Sample::milliseconds);
-    const double memory = median(samples[i], &Sample::mebibytes);
-    std::printf("%-16s %10.1f %8.3f %10.1f %8.3f\n", names[i].c_str(), time, time / twinTime,
-                memory, memory / twinMemory);
+    std::printf("%-14s", names[i].c_str());
+    for (const auto value :
+         {&Sample::milliseconds, &Sample::processorMilliseconds, &Sample::mebibytes}) {
+      const double own = median(samples[i], value);
+      std::printf(" %8.1f %7.3f", own, own / median(samples[twin], value));
+    }
+    std::printf("\n");
   }
 }

@@ -1,11 +1,11 @@
-#include "first_paint.h"
+#include "painted.h"
 
 #include <QApplication>
 #include <QWidget>
 
 int main(int argc, char* argv[]) {
   QApplication application(argc, argv);
-  tarnwick::bench::reportFirstPaint();
+  tarnwick::bench::reportWhenPainted(1);
   QWidget window;
   window.setFixedSize(313, 260);
   window.show();

@@ -1,10 +1,15 @@
-#include "app/program.h"
-#include "first_paint.h"
+// The program as it is: its own main function, which knows of no measuring.
 
-#include <QApplication>
+#include "painted.h"
 
-int main(int argc, char* argv[]) {
-  QApplication application(argc, argv);
-  tarnwick::bench::reportFirstPaint();
-  return tarnwick::app::run();
+#include <QCoreApplication>
+
+namespace {
+
+void measure() {
+  tarnwick::bench::reportWhenPainted(1);
 }
+
+}  // namespace
+
+Q_COREAPP_STARTUP_FUNCTION(measure)

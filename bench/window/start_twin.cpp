@@ -1,4 +1,4 @@
-#include "first_paint.h"
+#include "painted.h"
 
 #include <QApplication>
 #include <QMenuBar>
@@ -8,7 +8,7 @@
 // A window with the launcher's menu commands and captions, and no program behind them.
 int main(int argc, char* argv[]) {
   QApplication application(argc, argv);
-  tarnwick::bench::reportFirstPaint();
+  tarnwick::bench::reportWhenPainted(1);
   QWidget window;
   window.setWindowTitle(QStringLiteral("Twin"));
   auto* client = new QWidget(&window);

@@ -6,6 +6,7 @@
 #include "ui/widgets.h"
 
 #include <QFont>
+#include <QFontInfo>
 #include <QFontMetrics>
 #include <QMenuBar>
 #include <QPixmap>
@@ -14,6 +15,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <string>
 #include <string_view>
 
@@ -51,20 +53,28 @@ constexpr std::array<std::string_view, 11> unloadOrder{
     "fAbout", "fComparator",   "fCustomCharacter", "fEUSART",      "fMain", "fMinADTime",
     "fPWM",   "fSerinSerout2", "fTimer",           "fTimerHelper", "fUSART"};
 
-// Answers the font, made smaller where the widest caption would not fit a button whole.
-QFont fittingFont(QFont font) {
+// How many times larger than this the font may be for every caption to fit a button of the size.
+double room(const QFont& font, QSize button) {
   constexpr int marginX = 8;
   constexpr int marginY = 4;
+  const QFontMetricsF metrics(font);
+  double room = (button.height() - marginY) / metrics.height();
+  for (const LauncherButton& each : launcherButtons)
+    room = std::min(room,
+                    (button.width() - marginX) / metrics.horizontalAdvance(ui::toQt(each.caption)));
+  return room;
+}
+
+// Answers the font, made smaller where the widest caption would not fit a button whole. To load a
+// size takes a noticeable part of the start: the first guess fits.
+QFont fittingFont(QFont font, QSize button) {
   constexpr double step = 0.5;
   constexpr double smallest = 5;
-  const auto fits = [](const QFont& candidate) {
-    const QFontMetrics metrics(candidate);
-    if (metrics.height() + marginY > buttonSize.height()) return false;
-    return std::ranges::all_of(launcherButtons, [&](const LauncherButton& button) {
-      return metrics.horizontalAdvance(ui::toQt(button.caption)) + marginX <= buttonSize.width();
-    });
-  };
-  while (!fits(font) && font.pointSizeF() > smallest) font.setPointSizeF(font.pointSizeF() - step);
+  for (double fits = room(font, button); fits < 1; fits = room(font, button)) {
+    const double size = std::floor(QFontInfo(font).pointSizeF() * fits / step) * step;
+    if (size < smallest) break;
+    font.setPointSizeF(size);
+  }
   return font;
 }
 
@@ -73,33 +83,42 @@ QFont fittingFont(QFont font) {
 fMain::fMain(WindowSet& windows, GenVar& genVar)
     : Window("fMain", product::title), windows_(windows), genVar_(genVar) {
   auto* client = new QWidget(this);
-  client->setFixedSize(pictureSize);
-  layOutPicture(client);
-  layOutButtons(client);
+  QMenuBar* menu = makeMenu();
+  // With a font too large for the whole menu to be seen, the launcher grows.
+  constexpr int rounding = 2;  // what fractional scale factors may take from a width
+  const double menuWidth = menu->sizeHint().width() + rounding;
+  const double scale = std::max(1.0, menuWidth / pictureSize.width());
+  client->setFixedSize(pictureSize * scale);
+  layOutPicture(client, scale);
+  layOutButtons(client, scale);
 
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSizeConstraint(QLayout::SetFixedSize);
-  layout->setMenuBar(makeMenu());
+  layout->setMenuBar(menu);
   layout->addWidget(client);
 
   connect(this, &Window::unloading, this, &fMain::Form_Unload);
   Form_Load();
 }
 
-void fMain::layOutPicture(QWidget* client) {
+void fMain::layOutPicture(QWidget* client, double scale) {
   auto* Picture1 = ui::label(client, "Picture1", "");
   Picture1->setAccessibleName(ui::toQt(product::name));
-  Picture1->setPixmap(QPixmap(QStringLiteral(":/launcher.png")));
-  Picture1->setGeometry(QRect(QPoint(0, 0), pictureSize));
+  const bool enlarged = scale > 1;
+  Picture1->setPixmap(
+      QPixmap(enlarged ? QStringLiteral(":/launcher@2x.png") : QStringLiteral(":/launcher.png")));
+  Picture1->setScaledContents(enlarged);
+  Picture1->resize(client->size());
 }
 
-void fMain::layOutButtons(QWidget* client) {
-  const QFont font = fittingFont(client->font());
+void fMain::layOutButtons(QWidget* client, double scale) {
+  const QSize size = buttonSize * scale;
+  const QFont font = fittingFont(client->font(), size);
   for (const LauncherButton& button : launcherButtons) {
     auto* push = ui::button(client, button.control, button.caption);
     push->setFont(font);
-    push->setGeometry(QRect(QPoint(buttonLeft, ui::fromTwips(button.topTwips)), buttonSize));
+    push->setGeometry(QRect(QPoint(buttonLeft, ui::fromTwips(button.topTwips)) * scale, size));
     push->setEnabled(windows_.has(button.window));
     connect(push, &QPushButton::clicked, this, [this, button] { windows_.open(button.window); });
   }

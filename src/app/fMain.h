@@ -14,8 +14,8 @@ public:
   fMain(WindowSet& windows, GenVar& genVar);
 
 private:
-  void layOutPicture(QWidget* client);
-  void layOutButtons(QWidget* client);
+  void layOutPicture(QWidget* client, double scale);
+  void layOutButtons(QWidget* client, double scale);
   QMenuBar* makeMenu();
   void Form_Load();
   void Form_Unload();

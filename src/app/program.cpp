@@ -7,13 +7,25 @@
 
 #include <QApplication>
 
+#ifdef TARNWICK_FONTCONFIG
+#include <fontconfig/fontconfig.h>
+#endif
+
 namespace tarnwick::app {
 
 QIcon programIcon() {
   QIcon icon;
-  for (const int size : {16, 24, 32, 48, 64, 128, 256})
+  for (const int size : {16, 24, 32, 48, 64})
     icon.addFile(QStringLiteral(":/tarnwick-%1.png").arg(size), QSize(size, size));
   return icon;
+}
+
+std::thread readFontsAhead() {
+#ifdef TARNWICK_FONTCONFIG
+  return std::thread(FcInit);
+#else
+  return {};
+#endif
 }
 
 int run() {

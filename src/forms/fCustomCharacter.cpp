@@ -6,6 +6,7 @@
 #include "ui/text.h"
 #include "ui/twips.h"
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -26,6 +27,7 @@ constexpr int first = 0;
 
 constexpr int nameLength = 20;
 constexpr int slotPitch = ui::fromTwips(480);
+constexpr int slotGap = 4;  // between fields, where a large font makes rows higher than that
 constexpr std::string_view widestData = " $00, $00, $00, $00, $00, $00, $00, $00";
 
 ui::EditableList* list(QWidget* parent, std::string_view name, std::string_view spoken,
@@ -85,7 +87,6 @@ QWidget* fCustomCharacter::layOutSettings() {
   setting(3, "lCommandUS", "Command (uSec)", tCommandUS);
   setting(4, "lDataUS", "Data (uSec)", tDataUS);
   table->addWidget(ui::label(group, "lBits", "bits"), 1, 6);
-  for (QLineEdit* delay : {tCommandUS, tDataUS}) delay->setFixedWidth(delay->minimumWidth());
   table->setColumnStretch(3, 1);
   table->setColumnStretch(7, 2);
   return group;
@@ -121,7 +122,7 @@ QWidget* fCustomCharacter::layOutSlots() {
     ui::nameAfter(slot.tConstant, "Constant alias " + number);
 
     const int row = ++i;
-    table->setRowMinimumHeight(row, slotPitch);
+    table->setRowMinimumHeight(row, std::max(slotPitch, slot.tName->sizeHint().height() + slotGap));
     int column = 0;
     for (QWidget* control : std::initializer_list<QWidget*>{oChar->button(row - 1), slot.picture,
                                                             slot.tChar, slot.tName, slot.tConstant})
@@ -156,7 +157,7 @@ QWidget* fCustomCharacter::layOutPixels() {
     label = ui::label(parent, ui::indexed("lLine", row), "$00");
     ui::useFixedPitch(*label);
     width = label->sizeHint().width();
-    label->setGeometry(left, ui::PixelGrid::rowTop(row++), width, ui::PixelGrid::rowHeight());
+    label->setGeometry(left, chk->rowTop(row++), width, chk->rowHeight());
   }
   parent->setFixedSize(left + width, chk->height());
   return parent;

@@ -21,12 +21,9 @@ constexpr int even = 2;
 
 // Horizontal places, in pixels from the left edge of the window.
 constexpr int groupsLeft = ui::fromTwips(120);
-struct ModePlace {
-  int label;
-  int field;
-};
-constexpr ModePlace alone{ui::fromTwips(1680), ui::fromTwips(2400)};
-constexpr ModePlace besideButton{ui::fromTwips(480), ui::fromTwips(1200)};
+constexpr int labelAlone = ui::fromTwips(1680);
+constexpr int labelBesideButton = ui::fromTwips(480);
+constexpr int labelToField = ui::fromTwips(720);
 
 }  // namespace
 
@@ -85,10 +82,11 @@ void fSerinSerout2::layOutResults() {
   constexpr int gap = 8;
   const int top = fResults->contentsMargins().top() + gap;
   const int height = std::max(tMode->sizeHint().height(), cCopyClip->sizeHint().height());
-  const int buttonLeft = besideButton.field - groupsLeft + tMode->minimumWidth() + gap;
-  tLabel->setGeometry(0, top, alone.field - alone.label, height);
+  tLabel->setGeometry(0, top, std::max(labelToField, tLabel->sizeHint().width()), height);
   tMode->setGeometry(0, top, tMode->minimumWidth(), height);
-  cCopyClip->setGeometry(buttonLeft, top, cCopyClip->sizeHint().width(), height);
+  placeMode(labelBesideButton);
+  cCopyClip->setGeometry(tMode->x() + tMode->width() + gap, top, cCopyClip->sizeHint().width(),
+                         height);
   fResults->setMinimumSize(cCopyClip->geometry().right() + gap, top + height + gap);
 }
 
@@ -123,10 +121,14 @@ void fSerinSerout2::CalcMode() {
 }
 
 void fSerinSerout2::showOddParity(bool isOdd) {
-  const ModePlace place = isOdd ? besideButton : alone;
-  tLabel->move(place.label - groupsLeft, tLabel->y());
-  tMode->move(place.field - groupsLeft, tMode->y());
+  placeMode(isOdd ? labelBesideButton : labelAlone);
   cCopyClip->setVisible(isOdd);
+}
+
+// A label in a large font pushes its field to the right.
+void fSerinSerout2::placeMode(int labelLeft) {
+  tLabel->move(labelLeft - groupsLeft, tLabel->y());
+  tMode->move(tLabel->x() + tLabel->width(), tMode->y());
 }
 
 void fSerinSerout2::tBaud_Validate() {

@@ -17,6 +17,7 @@ private:
   void Form_Load();
   void CalcMode();
   void showOddParity(bool odd);
+  void placeMode(int labelLeft);
 
   void tBaud_Validate();
   void cCopyClip_Click();

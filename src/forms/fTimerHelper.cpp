@@ -104,6 +104,7 @@ void fTimerHelper::layOut() {
   addBest(Frame4, "16", results16_);
   ui::row(Frame4, {});
   auto* bests = static_cast<QHBoxLayout*>(Frame4->layout());
+  bests->setSpacing(2 * bests->spacing());
   layOutBest(bests, "8 Bit", results8_);
   layOutBest(bests, "16 Bit", results16_);
 

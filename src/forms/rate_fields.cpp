@@ -44,6 +44,14 @@ private:
   int column_ = 0;
 };
 
+// Adds a table for labelled fields to the right end of the grid.
+QGridLayout* side(QGridLayout* grid) {
+  auto* table = ui::grid(nullptr);
+  table->setContentsMargins(0, 0, 0, 0);
+  grid->addLayout(table, 0, grid->columnCount(), Qt::AlignTop);
+  return table;
+}
+
 RateFields addRow(const RateTable& table, int row, std::string_view caption, bool bytePair,
                   const RateNames& names) {
   RowBuilder builder(table, row, caption);
@@ -88,13 +96,19 @@ RateTable rateTable(QWidget* parent, std::string_view name, std::string_view cap
 QGroupBox* matchGroup(QWidget* parent, std::string_view name, std::string_view caption,
                       std::initializer_list<MatchField> fields) {
   auto* group = ui::group(parent, name, caption);
-  auto* grid = ui::grid(group);
+  auto* sides = ui::grid(group);
+  sides->setHorizontalSpacing(2 * sides->horizontalSpacing());
+  auto* rate = side(sides);
+  auto* registers = side(sides);
   for (const MatchField& match : fields) {
-    *match.field = new ui::ResultField(group, match.name, widestError);
-    ui::alignInColumn(**match.field, widestError);
-    ui::labelledRow(grid, "l" + std::string(match.name), match.label, *match.field);
+    const bool isRegister = rate->count() == 2 * 2;  // after error and rate, each with its label
+    const std::string_view widest = isRegister ? widestSpbrg : widestError;
+    *match.field = new ui::ResultField(group, match.name, widest);
+    ui::alignInColumn(**match.field, widest);
+    ui::labelledRow(isRegister ? registers : rate, "l" + std::string(match.name), match.label,
+                    *match.field);
   }
-  ui::packTopLeft(grid);
+  ui::packTopLeft(sides);
   return group;
 }
 

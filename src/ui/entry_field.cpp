@@ -64,6 +64,10 @@ void EntryField::setContents(std::string_view text) {
   setText(toQt(text));
 }
 
+QSize EntryField::sizeHint() const {
+  return {minimumWidth(), QLineEdit::sizeHint().height()};
+}
+
 void EntryField::focusEntered() {
   if (clearsPointOnEntering_) *pointTyped_ = false;
   emit focusGained();

@@ -39,6 +39,7 @@ public:
   [[nodiscard]] std::string contents() const;
   // Writes a text, cut at the field's maximum length.
   void setContents(std::string_view text);
+  [[nodiscard]] QSize sizeHint() const override;
 
   void focusEntered() override;
   void focusLeft() override;

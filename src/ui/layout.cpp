@@ -11,8 +11,7 @@
 namespace tarnwick::ui {
 namespace {
 
-constexpr int margin = 10;
-constexpr int spacing = 8;
+constexpr int spacing = 6;  // between controls, and between them and the edge around them
 
 std::string groupsAround(const QWidget& control) {
   std::string captions;
@@ -38,14 +37,14 @@ void tellApart(const QWidget& window) {
 
 QGridLayout* grid(QWidget* parent) {
   auto* layout = new QGridLayout(parent);
-  layout->setContentsMargins(margin, margin, margin, margin);
+  layout->setContentsMargins(spacing, spacing, spacing, spacing);
   layout->setSpacing(spacing);
   return layout;
 }
 
 void row(QWidget* parent, std::initializer_list<QWidget*> controls) {
   auto* layout = new QHBoxLayout(parent);
-  layout->setContentsMargins(margin, margin, margin, margin);
+  layout->setContentsMargins(spacing, spacing, spacing, spacing);
   layout->setSpacing(spacing);
   for (QWidget* control : controls) layout->addWidget(control);
 }

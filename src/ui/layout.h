@@ -7,7 +7,7 @@
 #include <initializer_list>
 #include <string_view>
 
-// Margins and spacing of every window, said once.
+// The spacing of every window, said once.
 namespace tarnwick::ui {
 
 // Gives a window or a group a grid with the usual spacing.

@@ -20,10 +20,10 @@ using common::PixelMatrix;
 constexpr int rows = common::matrixRows;
 constexpr int columns = common::matrixColumns;
 
-// Neighbouring cells share their border line.
+// Neighbouring cells share their border line, of one pixel.
 constexpr int cellTwips = 255;
-constexpr int cellSize = fromTwips(cellTwips);
 constexpr int cellPitch = fromTwips(240);
+constexpr int sharedLine = fromTwips(cellTwips) - cellPitch;
 
 // A picture's cell is one fifth of the grid's; the cells overlap by 5 twips, so that in whole
 // pixels they lie side by side.
@@ -91,7 +91,9 @@ private:
 
 PixelGrid::PixelGrid(QWidget* parent, std::string_view family) : QWidget(parent) {
   nameAfter(this, "Pixels");
-  setFixedSize((columns - 1) * cellPitch + cellSize, (rows - 1) * cellPitch + cellSize);
+  useFixedPitch(*this);
+  pitch_ = std::max(cellPitch, fontMetrics().height() - sharedLine);
+  setFixedSize(columns * pitch_ + sharedLine, rows * pitch_ + sharedLine);
   for (int i = 0; i < rows * columns; ++i) {
     // From the top left on, so that cells are found in reading order.
     const Place place{i / columns, i % columns};
@@ -101,7 +103,7 @@ PixelGrid::PixelGrid(QWidget* parent, std::string_view family) : QWidget(parent)
     cell->setObjectName(toQt(indexed(family, pixel)));
     cell->setAccessibleName(toQt("Row " + common::wholeText(place.row + 1) + ", column " +
                                  common::wholeText(place.column + 1)));
-    cell->setGeometry(place.column * cellPitch, place.row * cellPitch, cellSize, cellSize);
+    cell->setGeometry(place.column * pitch_, rowTop(place.row), rowHeight(), rowHeight());
     connect(cell, &QAbstractButton::clicked, this, [this, pixel] { emit clicked(pixel); });
   }
   stopTabAt(pixelAt({0, 0}));
@@ -111,12 +113,12 @@ void PixelGrid::setPixels(const PixelMatrix& pixels) {
   for (std::size_t i = 0; i < cells_.size(); ++i) cells_[i]->setChecked(pixels.test(i));
 }
 
-int PixelGrid::rowTop(int row) {
-  return row * cellPitch;
+int PixelGrid::rowTop(int row) const {
+  return row * pitch_;
 }
 
-int PixelGrid::rowHeight() {
-  return cellSize;
+int PixelGrid::rowHeight() const {
+  return pitch_ + sharedLine;
 }
 
 void PixelGrid::stopTabAt(int pixel) {

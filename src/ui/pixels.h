@@ -27,9 +27,10 @@ public:
   PixelGrid(QWidget* parent, std::string_view family);
 
   void setPixels(const common::PixelMatrix& pixels);
-  // The top edge of a row of cells, and their height, in logical pixels.
-  [[nodiscard]] static int rowTop(int row);
-  [[nodiscard]] static int rowHeight();
+  // The top edge of a row of cells, and their height, in logical pixels: a line of the fixed-pitch
+  // font finds room beside each row.
+  [[nodiscard]] int rowTop(int row) const;
+  [[nodiscard]] int rowHeight() const;
 
 signals:
   void clicked(int pixel);
@@ -41,6 +42,7 @@ private:
   // Makes the pixel's cell the one that the Tab key stops at.
   void stopTabAt(int pixel);
 
+  int pitch_;
   std::array<QAbstractButton*, common::matrixPixels> cells_;
 };
 

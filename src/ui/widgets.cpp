@@ -60,6 +60,8 @@ private:
   void apply() {
     QPalette own;
     own.setBrush(QPalette::Base, own.brush(QPalette::Window));
+    own.setBrush(QPalette::WindowText,
+                 own.brush(QPalette::Mid));  // what a plain frame is drawn with
     result_->setPalette(own);
   }
 
@@ -128,6 +130,10 @@ void ResultField::setContents(std::string_view text) {
   setText(toQt(text));
 }
 
+QSize ResultField::sizeHint() const {
+  return {minimumWidth(), QLineEdit::sizeHint().height()};
+}
+
 // Without a frame, the toolkit would not show the focus on an empty field.
 void ResultField::paintEvent(QPaintEvent* event) {
   QLineEdit::paintEvent(event);
@@ -154,7 +160,12 @@ ResultColumn::ResultColumn(QWidget* parent, std::string_view name, std::string_v
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   useFixedPitch(*this);
   ensurePolished();
-  const int margins = 2 * (static_cast<int>(document()->documentMargin()) + frameWidth());
+  // The plain frame keeps its lines at fractional scale factors, with a gap to the text's
+  // background.
+  setFrameStyle(QFrame::Box | QFrame::Plain);
+  constexpr int gap = 1;
+  setViewportMargins(gap, gap, gap, gap);
+  const int margins = 2 * (frameWidth() + gap + static_cast<int>(document()->documentMargin()));
   setMinimumWidth(fontMetrics().horizontalAdvance(toQt(widest)) + margins + 1);
   setFixedHeight(fontMetrics().lineSpacing() * lines + margins + 1);
 }

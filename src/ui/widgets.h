@@ -48,6 +48,7 @@ public:
 
   [[nodiscard]] std::string contents() const;
   void setContents(std::string_view text);
+  [[nodiscard]] QSize sizeHint() const override;
 
 protected:
   void paintEvent(QPaintEvent* event) override;
@@ -69,6 +70,7 @@ public:
   [[nodiscard]] const std::string& contents() const { return contents_; }
   void setContents(std::string_view text);
   [[nodiscard]] QSize sizeHint() const override { return minimumSize(); }
+  [[nodiscard]] QSize minimumSizeHint() const override { return minimumSize(); }
 
 protected:
   bool event(QEvent* event) override;

@@ -1,7 +1,8 @@
-#include "first_paint.h"
+#include "painted.h"
 
 #include <QApplication>
 #include <QEvent>
+#include <QSet>
 #include <QTimer>
 #include <QWidget>
 
@@ -33,21 +34,29 @@ void report() {
   std::_Exit(EXIT_SUCCESS);
 }
 
-class FirstPaint : public QObject {
+class Painted : public QObject {
 public:
+  explicit Painted(int windows) : windows_(windows) {}
+
   bool eventFilter(QObject* receiver, QEvent* event) override {
     const auto* widget =
         event->type() == QEvent::Paint ? qobject_cast<QWidget*>(receiver) : nullptr;
+    if (widget == nullptr || !widget->isWindow() || seen_.contains(widget)) return false;
+    seen_.insert(widget);
     // The timer's turn comes after the whole window has been painted and handed to the display.
-    if (widget != nullptr && widget->isWindow()) QTimer::singleShot(0, report);
+    if (seen_.size() == windows_) QTimer::singleShot(0, report);
     return false;
   }
+
+private:
+  int windows_;
+  QSet<const QWidget*> seen_;
 };
 
 }  // namespace
 
-void reportFirstPaint() {
-  static FirstPaint filter;
+void reportWhenPainted(int windows) {
+  static Painted filter(windows);
   qApp->installEventFilter(&filter);
 }
 
