@@ -24,9 +24,9 @@ double periodOf(const Delay& delay) {
     case DelayUnit::Hz:
       return (1 / delay.value) * 1000000;
     case DelayUnit::KHz:
-      return (1 / delay.value) * 1000;
+      break;
   }
-  return 0;
+  return (1 / delay.value) * 1000;
 }
 
 double inUnit(double period, DelayUnit unit) {
@@ -38,9 +38,9 @@ double inUnit(double period, DelayUnit unit) {
     case DelayUnit::Hz:
       return 1 / (period / 1000000);
     case DelayUnit::KHz:
-      return 1 / (period / 1000);
+      break;
   }
-  return 0;
+  return 1 / (period / 1000);
 }
 
 double toleranceIn(DelayUnit unit) {
@@ -60,6 +60,7 @@ std::optional<TimerMatch> matchFor(int Max, const TimerGoal& goal, std::uint16_t
 
   const double target = goal.Rt + goal.Deff;
   const double achieved = (1 / goal.Fcy) * P * (Max - preload) + goal.Rt;
+  if (!std::isfinite(achieved)) return std::nullopt;
   double error = std::fabs(target - achieved);
   if (error > 0) error = error / achieved * 100;
 

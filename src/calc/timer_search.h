@@ -70,7 +70,8 @@ struct TimerMatchTexts {
 
 // Answers every prescaler that lets a timer of `Max` counts (256 or 65536) reach the goal to within
 // 5 us, 5 ms, 2 Hz or 2 KHz, bounds excluded, each with the largest preload that does not make the
-// period too short. A goal that is not longer than its reload time matches nothing.
+// period too short. A goal that is not longer than its reload time matches nothing, nor does a
+// period beyond the range of a double.
 // Source: mid-range family reference manual, Timer0 and Timer1 modules, solved for the preload.
 [[nodiscard]] TimerMatches searchTimer(int Max, const TimerGoal& goal);
 

@@ -56,6 +56,7 @@ TEST(SearchTimer, MatchesNothingOutsideTheNumbers) {
     for (const double fosc : {0.0, -4.0, 1e308})
       for (const double value : {0.0, 1e308})
         EXPECT_EQ(search(65536, fosc, 7, value, unit).MatchCount, 0) << fosc << ' ' << value;
+  EXPECT_EQ(search(256, 1e-307, 0, 1e-300, Hz).MatchCount, 3);  // 1:8 would take 3.2E+308 us
 }
 
 TEST(ShownDelay, MovesBetweenHzAndKHz) {

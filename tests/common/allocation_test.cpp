@@ -47,6 +47,7 @@ TEST(Allocations, ReadingNeedsNoneAndWritingOnlyTheText) {
     EXPECT_EQ(allocationsOf([&] { return readNumber(text); }), 0) << text.substr(0, 20);
   EXPECT_EQ(allocationsOf([] { return numberText(3.6864); }), 0);
   EXPECT_EQ(allocationsOf([] { return format(3.802, "###0.0## KHz"); }), 0);
+  EXPECT_EQ(allocationsOf([] { return format(3, "###0.0#######"); }), 0);
   EXPECT_EQ(allocationsOf([] { return numberText(-1.23456789012345e-107); }), 1);
   EXPECT_EQ(allocationsOf([] { return formatWithUnit(123456789.123, "###0.0###", " MHz"); }), 1);
 }
