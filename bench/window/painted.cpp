@@ -2,13 +2,14 @@
 
 #include <QApplication>
 #include <QEvent>
-#include <QSet>
 #include <QTimer>
 #include <QWidget>
 
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <iterator>
+#include <set>
 #include <unistd.h>
 
 namespace tarnwick::bench {
@@ -44,13 +45,13 @@ public:
     if (widget == nullptr || !widget->isWindow() || seen_.contains(widget)) return false;
     seen_.insert(widget);
     // The timer's turn comes after the whole window has been painted and handed to the display.
-    if (seen_.size() == windows_) QTimer::singleShot(0, report);
+    if (std::ssize(seen_) == windows_) QTimer::singleShot(0, report);
     return false;
   }
 
 private:
   int windows_;
-  QSet<const QWidget*> seen_;
+  std::set<const QWidget*> seen_;
 };
 
 }  // namespace
