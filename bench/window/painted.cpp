@@ -10,12 +10,25 @@
 #include <cstdlib>
 #include <iterator>
 #include <set>
+
+#ifdef Q_OS_WIN
+// Before psapi.h, which uses its types.
+#include <windows.h>
+//
+#include <psapi.h>
+#else
 #include <unistd.h>
+#endif
 
 namespace tarnwick::bench {
 namespace {
 
 long residentKiB() {
+#ifdef Q_OS_WIN
+  PROCESS_MEMORY_COUNTERS counters{};
+  K32GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof counters);
+  return static_cast<long>(counters.WorkingSetSize / 1024);
+#else
   long pages = 0;
   long resident = 0;
   if (std::FILE* file = std::fopen("/proc/self/statm", "r")) {
@@ -23,6 +36,7 @@ long residentKiB() {
     std::fclose(file);
   }
   return resident * sysconf(_SC_PAGESIZE) / 1024;
+#endif
 }
 
 void report() {

@@ -37,6 +37,8 @@ QLineEdit* lockedText(QWidget* parent, std::string_view name, Qt::Alignment alig
   field->setFrame(false);
   field->setAlignment(alignment);
   field->setFont(terminalFont());
+  // Set for the field itself: the style of Windows paints an inherited background as its own.
+  field->setPalette(lcdPalette(field->palette()));
   field->setFixedWidth(textWidth);
   return field;
 }

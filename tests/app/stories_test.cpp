@@ -33,9 +33,9 @@ std::string cell(int place) {
   return "chk(" + std::to_string(place / 5 * 5 + 4 - place % 5) + ")";
 }
 
-// As another program finds it where there is an X server; as this one does elsewhere.
+// As another program finds it; off screen, where there is none, as this one does.
 std::string clipboardSeen() {
-  if (QGuiApplication::platformName() == "xcb") return clipboardSeenByAnotherProgram();
+  if (QGuiApplication::platformName() != "offscreen") return clipboardSeenByAnotherProgram();
   return ui::fromQt(QGuiApplication::clipboard()->text());
 }
 

@@ -15,6 +15,10 @@
 #include <QSlider>
 #include <QUrl>
 
+#ifdef Q_OS_WIN
+#include <windows.h>
+#endif
+
 namespace tarnwick::tests {
 namespace {
 
@@ -185,6 +189,13 @@ void Program::confirmMessage() {
 }
 
 std::string clipboardSeenByAnotherProgram() {
+#ifdef Q_OS_WIN
+  if (OpenClipboard(nullptr) == FALSE) return "no clipboard";
+  const auto* text = static_cast<const wchar_t*>(GlobalLock(GetClipboardData(CF_UNICODETEXT)));
+  const QString seen = text == nullptr ? QString() : QString::fromWCharArray(text);
+  CloseClipboard();
+  return ui::fromQt(seen);
+#else
   QProcess reader;
   reader.start(QStringLiteral("xclip"),
                {QStringLiteral("-selection"), QStringLiteral("clipboard"), QStringLiteral("-o")});
@@ -192,6 +203,7 @@ std::string clipboardSeenByAnotherProgram() {
       QTest::qWaitFor([&] { return reader.state() == QProcess::NotRunning; }, 5000);
   EXPECT_TRUE(finished && reader.exitCode() == 0) << "xclip could not read the clipboard";
   return reader.readAllStandardOutput().toStdString();
+#endif
 }
 
 }  // namespace tarnwick::tests

@@ -75,7 +75,7 @@ private:
   QWidget* current_ = nullptr;
 };
 
-// What another program finds on the clipboard (xclip; needs an X display).
+// What another program finds on the clipboard: xclip on an X display, Windows itself there.
 std::string clipboardSeenByAnotherProgram();
 
 }  // namespace tarnwick::tests
