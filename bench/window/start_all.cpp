@@ -9,11 +9,13 @@
 #include <QApplication>
 #include <QPushButton>
 
+#include <thread>
+
 int main(int argc, char* argv[]) {
   using namespace tarnwick;
-  std::thread fonts = app::readFontsAhead();
+  std::thread ahead(app::readFonts);  // as the program does
   QApplication application(argc, argv);
-  if (fonts.joinable()) fonts.join();
+  app::readFonts();
   bench::reportWhenPainted(11);
   app::GenVar genVar;
   app::WindowSet windows;
@@ -21,5 +23,7 @@ int main(int argc, char* argv[]) {
   windows.open("fMain");
   windows.open("fAbout");
   for (auto* button : windows.loaded("fMain")->findChildren<QPushButton*>()) button->click();
-  return QApplication::exec();
+  const int code = QApplication::exec();
+  ahead.join();
+  return code;
 }

@@ -2,9 +2,13 @@
 
 #include <QApplication>
 
+#include <thread>
+
 int main(int argc, char* argv[]) {
-  std::thread fonts = tarnwick::app::readFontsAhead();
+  std::thread ahead(tarnwick::app::readFonts);
   QApplication application(argc, argv);
-  if (fonts.joinable()) fonts.join();
-  return tarnwick::app::run();
+  tarnwick::app::readFonts();
+  const int code = tarnwick::app::run();
+  ahead.join();
+  return code;
 }

@@ -20,11 +20,9 @@ QIcon programIcon() {
   return icon;
 }
 
-std::thread readFontsAhead() {
+void readFonts() {
 #ifdef TARNWICK_FONTCONFIG
-  return std::thread(FcInit);
-#else
-  return {};
+  [[maybe_unused]] static const FcBool done = FcInit();
 #endif
 }
 
