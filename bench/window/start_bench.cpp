@@ -12,6 +12,7 @@
 #include <string>
 #include <sys/resource.h>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 #include <vector>
 
@@ -33,6 +34,8 @@ double milliseconds(const timeval& time) {
 }
 
 Sample runOnce(const std::string& program) {
+  // The display and the window manager are still busy with the end of the last program.
+  std::this_thread::sleep_for(std::chrono::milliseconds(150));
   std::array<int, 2> pipeEnds{};
   if (pipe(pipeEnds.data()) != 0) fail(program);
   const auto start = std::chrono::steady_clock::now().time_since_epoch();
