@@ -15,7 +15,7 @@ namespace tarnwick::app {
 
 QIcon programIcon() {
   QIcon icon;
-  for (const int size : {16, 24, 32, 48, 64})
+  for (const int size : {16, 32, 48})
     icon.addFile(QStringLiteral(":/tarnwick-%1.png").arg(size), QSize(size, size));
   return icon;
 }
