@@ -157,11 +157,8 @@ void fPWM::tFreq_Validate() {
 }
 
 void fPWM::tDuty_Validate() {
-  std::int32_t percent = common::toWhole<std::int32_t>(tDuty->number());
-  if (percent > 100) {
-    tDuty->setContents("100");
-    percent = 100;
-  }
+  const auto percent = common::toWhole<std::int32_t>(tDuty->number());
+  if (percent > 100) tDuty->setContents("100");
   if (percent < 0)  // only by pasting; the field then shows where the slider can go
     scrollduty->refreshPosition(0);
   else

@@ -9,6 +9,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSlider>
+#include <QStyle>
 
 #include <algorithm>
 #include <set>
@@ -99,10 +100,13 @@ int neededWidth(const QWidget* control) {
   int width = 0;
   for (const QString& line : text.split("\r\n"))
     width = std::max(width, control->fontMetrics().horizontalAdvance(line));
+  if (const auto* field = qobject_cast<const QLineEdit*>(control)) {
+    const int frame = field->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, field);
+    return width + (field->hasFrame() ? 2 * frame : 0) + 2 * 2 + 1;  // its margins and the cursor
+  }
   if (const auto* column = qobject_cast<const QPlainTextEdit*>(control))
     return width + 2 * static_cast<int>(column->document()->documentMargin());
-  const bool hasFrame =
-      !control->inherits("QLineEdit") && control->window()->objectName() != "fMain";
+  const bool hasFrame = control->window()->objectName() != "fMain";
   return hasFrame && !text.isEmpty() ? std::max(width, control->sizeHint().width()) : width;
 }
 
