@@ -20,8 +20,9 @@ TEST(Ser2Mode, GivesTheNumbersOfTheCommonRates) {
         Case{57600, plain, none}, Case{57600, open, 32765}, Case{57600, parity, 8189},
         Case{9600, open, 32852}, Case{9600, mixed, 24660}, Case{9600, all, 57428},
         Case{1000000.0 / 21, plain, 1}, Case{50000, plain, none}, Case{120, all, none},
-        Case{1000000.0 / 65554, plain, 65534}, Case{1000000.0 / 65555, plain, none},
-        Case{0, open, none}, Case{-5, open, none}, Case{infinite, open, none}})
+        Case{9615.394, plain, 83}, Case{1000000.0 / 65554, plain, 65534},
+        Case{1000000.0 / 65555, plain, none}, Case{0, open, none}, Case{-5, open, none},
+        Case{infinite, open, none}})
     EXPECT_EQ(Ser2Mode(baud, options), mode) << baud;
 }
 
