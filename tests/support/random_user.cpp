@@ -33,6 +33,14 @@ constexpr std::array<const char*, 24> texts{
     "-5",    "1E999",    "-1D-400", "&HFF", "65536",     "0.0001", "1E-300", "1e300",
     "1.5.2", "\xd9\xa3", "  7 ",    "",     "000000000", "5.26",   "PORTB",  "2147483648"};
 
+// The press may close and delete the window that the release was meant for.
+template <typename Key>
+void clickKey(Key key, Qt::KeyboardModifiers modifiers = {}) {
+  const QPointer<QWindow> focus = QGuiApplication::focusWindow();
+  if (focus != nullptr) QTest::keyPress(focus, key, modifiers);
+  if (focus != nullptr) QTest::keyRelease(focus, key, modifiers);
+}
+
 bool shows(const QString& text, const char* word) {
   return text.contains(QLatin1String(word), Qt::CaseInsensitive);
 }
@@ -137,15 +145,13 @@ void RandomUser::pressSomeKey(QWidget* window) {
   const auto modifiers = std::array<Qt::KeyboardModifiers, 6>{
       Qt::NoModifier,      Qt::NoModifier,    Qt::NoModifier,
       Qt::ControlModifier, Qt::ShiftModifier, Qt::KeypadModifier};
-  if (QWindow* focus = QGuiApplication::focusWindow())
-    QTest::keyClick(focus, oneOf(keys), oneOf(modifiers));
+  clickKey(oneOf(keys), oneOf(modifiers));
 }
 
 void RandomUser::typeSomething(QWidget* window) {
   if (below(3) == 0) window->activateWindow();
   constexpr std::string_view characters = "0123456789.0123456789.-,eX@";
-  for (int i = below(4); i >= 0; --i)
-    if (QWindow* focus = QGuiApplication::focusWindow()) QTest::keyClick(focus, oneOf(characters));
+  for (int i = below(4); i >= 0; --i) clickKey(oneOf(characters));
 }
 
 void RandomUser::commitByInputMethod() {
