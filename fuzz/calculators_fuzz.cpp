@@ -204,9 +204,8 @@ void checkPwm(FuzzedDataProvider& input) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  FuzzedDataProvider input(data, size);
-  constexpr std::array checks{checkBaud,  checkSer2,        checkAdc, checkComparator,
-                              checkTimer, checkTimerSearch, checkPwm};
-  checks[input.ConsumeIntegralInRange<std::size_t>(0, checks.size() - 1)](input);
+  fuzz::runOneOf(std::array{checkBaud, checkSer2, checkAdc, checkComparator, checkTimer,
+                            checkTimerSearch, checkPwm},
+                 data, size);
   return 0;
 }

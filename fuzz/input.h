@@ -1,7 +1,9 @@
 #pragma once
 
+#include <array>
 #include <bit>
 #include <cmath>
+#include <cstddef>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -59,6 +61,14 @@ inline std::string fieldText(FuzzedDataProvider& input, std::size_t maximum = 24
       text += static_cast<char>('0' + code % 10);
   }
   return text;
+}
+
+// Makes an input of the fuzzer's bytes and hands it to the check that they choose.
+template <std::size_t count>
+void runOneOf(const std::array<void (*)(FuzzedDataProvider&), count>& checks,
+              const std::uint8_t* data, std::size_t size) {
+  FuzzedDataProvider input(data, size);
+  checks[input.ConsumeIntegralInRange<std::size_t>(0, count - 1)](input);
 }
 
 }  // namespace tarnwick::fuzz

@@ -153,9 +153,8 @@ void checkLcd(FuzzedDataProvider& input) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  FuzzedDataProvider input(data, size);
-  constexpr std::array checks{checkUsart, checkEusart, checkAdc, checkComparator,
-                              checkTimer, checkPwm,    checkLcd};
-  checks[input.ConsumeIntegralInRange<std::size_t>(0, checks.size() - 1)](input);
+  fuzz::runOneOf(std::array{checkUsart, checkEusart, checkAdc, checkComparator, checkTimer,
+                            checkPwm, checkLcd},
+                 data, size);
   return 0;
 }
