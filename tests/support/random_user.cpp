@@ -33,12 +33,13 @@ constexpr std::array<const char*, 24> texts{
     "-5",    "1E999",    "-1D-400", "&HFF", "65536",     "0.0001", "1E-300", "1e300",
     "1.5.2", "\xd9\xa3", "  7 ",    "",     "000000000", "5.26",   "PORTB",  "2147483648"};
 
-// The press may close and delete the window that the release was meant for.
-template <typename Key>
-void clickKey(Key key, Qt::KeyboardModifiers modifiers = {}) {
+// Clicks a key by one press and one release. QTest::keyClick sends the keys of the modifiers too,
+// and that after the release to a window that it may have closed.
+void clickKey(Qt::Key key, char character, Qt::KeyboardModifiers modifiers = {}) {
+  const QString text = character == 0 ? QString() : QString(QChar::fromLatin1(character));
   const QPointer<QWindow> focus = QGuiApplication::focusWindow();
-  if (focus != nullptr) QTest::keyPress(focus, key, modifiers);
-  if (focus != nullptr) QTest::keyRelease(focus, key, modifiers);
+  for (const bool press : {true, false})
+    if (focus != nullptr) QTest::simulateEvent(focus, press, key, modifiers, text, false);
 }
 
 bool shows(const QString& text, const char* word) {
@@ -145,13 +146,17 @@ void RandomUser::pressSomeKey(QWidget* window) {
   const auto modifiers = std::array<Qt::KeyboardModifiers, 6>{
       Qt::NoModifier,      Qt::NoModifier,    Qt::NoModifier,
       Qt::ControlModifier, Qt::ShiftModifier, Qt::KeypadModifier};
-  clickKey(oneOf(keys), oneOf(modifiers));
+  const Qt::Key key = oneOf(keys);
+  clickKey(key, QTest::keyToAscii(key), oneOf(modifiers));
 }
 
 void RandomUser::typeSomething(QWidget* window) {
   if (below(3) == 0) window->activateWindow();
   constexpr std::string_view characters = "0123456789.0123456789.-,eX@";
-  for (int i = below(4); i >= 0; --i) clickKey(oneOf(characters));
+  for (int i = below(4); i >= 0; --i) {
+    const char character = oneOf(characters);
+    clickKey(QTest::asciiToKey(character), character);
+  }
 }
 
 void RandomUser::commitByInputMethod() {
