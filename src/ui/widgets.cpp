@@ -259,7 +259,7 @@ EditableList::EditableList(QWidget* parent, std::string_view name,
   // The list would take a typed text that equals an item for a choice of that item.
   disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
   fill(*this, items);
-  fitWidth(*lineEdit(), widest);
+  setMinimumContentsLength(static_cast<int>(widest.size()));
   connect(this, &QComboBox::activated, this, &EditableList::chosen);
   connect(this, &QComboBox::editTextChanged, this, &EditableList::edited);
 }
