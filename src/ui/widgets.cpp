@@ -126,8 +126,11 @@ std::string ResultField::contents() const {
   return fromQt(text());
 }
 
+// The field may have just got the focus from an entry that is validated: what the Tab key selected
+// stays selected, which with some styles is all that shows the focus.
 void ResultField::setContents(std::string_view text) {
   setText(toQt(text));
+  if (hasFocus()) selectAll();
 }
 
 QSize ResultField::sizeHint() const {
