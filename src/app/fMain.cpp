@@ -1,5 +1,6 @@
 #include "app/fMain.h"
 
+#include "app/circuit_board.h"
 #include "common/product.h"
 #include "ui/text.h"
 #include "ui/twips.h"
@@ -9,7 +10,6 @@
 #include <QFontInfo>
 #include <QFontMetrics>
 #include <QMenuBar>
-#include <QPixmap>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -105,10 +105,7 @@ fMain::fMain(WindowSet& windows, GenVar& genVar)
 void fMain::layOutPicture(QWidget* client, double scale) {
   auto* Picture1 = ui::label(client, "Picture1", "");
   Picture1->setAccessibleName(ui::toQt(product::name));
-  const bool enlarged = scale > 1;
-  Picture1->setPixmap(
-      QPixmap(enlarged ? QStringLiteral(":/launcher@2x.png") : QStringLiteral(":/launcher.png")));
-  Picture1->setScaledContents(enlarged);
+  Picture1->setPixmap(circuitBoard(scale, devicePixelRatioF()));
   Picture1->resize(client->size());
 }
 

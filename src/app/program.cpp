@@ -6,17 +6,38 @@
 #include "ui/text.h"
 
 #include <QApplication>
+#include <QImage>
+#include <QPixmap>
+#include <QProxyStyle>
+#include <QResource>
 
 #ifdef TARNWICK_FONTCONFIG
 #include <fontconfig/fontconfig.h>
 #endif
 
 namespace tarnwick::app {
+namespace {
+
+// The desktop's style without the picture for the rest of a menu bar that has no room for all its
+// commands, as the launcher's always has. To read it would load every plugin for pictures: a
+// twentieth of the start.
+class Style : public QProxyStyle {
+public:
+  QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
+                     const QWidget* widget) const override {
+    if (icon == SP_ToolBarHorizontalExtensionButton) return {};
+    return QProxyStyle::standardIcon(icon, option, widget);
+  }
+};
+
+}  // namespace
 
 QIcon programIcon() {
   QIcon icon;
-  for (const int size : {16, 32, 48})
-    icon.addFile(QStringLiteral(":/tarnwick-%1.png").arg(size), QSize(size, size));
+  for (const int size : {16, 32, 48, 96}) {
+    const QResource pixels(QStringLiteral(":/tarnwick-%1.rgba").arg(size));
+    icon.addPixmap(QPixmap::fromImage(QImage(pixels.data(), size, size, QImage::Format_RGBA8888)));
+  }
   return icon;
 }
 
@@ -29,6 +50,7 @@ void readFonts() {
 int run() {
   QApplication::setApplicationName(ui::toQt(common::product::name));
   QGuiApplication::setDesktopFileName(QStringLiteral("tarnwick"));
+  QApplication::setStyle(new Style);
   QApplication::setWindowIcon(programIcon());
   GenVar genVar;
   WindowSet windows;

@@ -4,8 +4,7 @@
 
 namespace tarnwick::app {
 
-// The icon of the program's windows. Adding a size decodes it, so it has none that only a desktop's
-// menu shows.
+// The icon of the program's windows, from pixels that need no decoding at the start.
 [[nodiscard]] QIcon programIcon();
 
 // Reads the desktop's font configuration, a third of the instructions of a start, if that was not

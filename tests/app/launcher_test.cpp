@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QImage>
 #include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
@@ -37,6 +38,17 @@ TEST_F(Launcher, StandsWhereItWasDrawn) {
     EXPECT_EQ(focused(), name);  // the tab order runs from top to bottom
     press(Qt::Key_Tab);
     top += 24;
+  }
+}
+
+TEST_F(Launcher, HasTheIconThatADesktopShows) {
+  for (const int size : {16, 32, 48}) {
+    const QImage desktops(QStringLiteral(TESTS_FOLDER "/../resources/tarnwick-%1.png").arg(size));
+    const QPixmap own = window("fMain")->windowIcon().pixmap({size, size}, 1.0);
+    EXPECT_EQ(own.toImage().convertToFormat(QImage::Format_ARGB32),
+              desktops.convertToFormat(QImage::Format_ARGB32_Premultiplied)
+                  .convertToFormat(QImage::Format_ARGB32))
+        << size;
   }
 }
 
