@@ -9,6 +9,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <numeric>
+#include <random>
 #include <string>
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -34,7 +36,6 @@ double milliseconds(const timeval& time) {
 }
 
 Sample runOnce(const std::string& program) {
-  // The display and the window manager are still busy with the end of the last program.
   std::this_thread::sleep_for(std::chrono::milliseconds(150));
   std::array<int, 2> pipeEnds{};
   if (pipe(pipeEnds.data()) != 0) fail(program);
@@ -76,8 +77,13 @@ int main(int argc, char* argv[]) {
                                          "start_all"};
   constexpr std::size_t twin = 1;
   std::array<std::vector<Sample>, names.size()> samples;
+  // In another order each time: the display is still busy with the end of a large program.
+  std::vector<std::size_t> order(names.size());
+  std::iota(order.begin(), order.end(), 0);
+  std::mt19937 generator;                  // NOLINT: the same orders in each measurement
   for (int run = -2; run < runs; ++run) {  // the first two warm the caches
-    for (std::size_t i = 0; i < names.size(); ++i) {
+    std::ranges::shuffle(order, generator);
+    for (const std::size_t i : order) {
       const Sample sample = runOnce((folder / names[i]).string());
       if (run >= 0) samples[i].push_back(sample);
     }

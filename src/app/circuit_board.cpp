@@ -100,17 +100,17 @@ void drawPulse(QPainter& painter) {
 
 }  // namespace
 
-QPixmap circuitBoard(double scale, double devicePixelRatio) {
-  QPixmap pixmap((QSizeF(width, height) * scale * devicePixelRatio).toSize());
-  pixmap.setDevicePixelRatio(devicePixelRatio);
-  QPainter painter(&pixmap);
-  painter.scale(scale, scale);
-  painter.fillRect(QRectF(0, 0, width + 1, height + 1), downwards(0, height, "#4f8a90", "#386973"));
+QPicture circuitBoard() {
+  QPicture picture;
+  QPainter painter(&picture);
+  painter.fillRect(0, 0, width, height, downwards(0, height, "#4f8a90", "#386973"));
   painter.setRenderHint(QPainter::Antialiasing);
   drawTraces(painter);
   drawPackage(painter);
   drawPulse(painter);
-  return pixmap;
+  painter.end();
+  picture.setBoundingRect(QRect(0, 0, width, height));
+  return picture;
 }
 
 }  // namespace tarnwick::app

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QPixmap>
+#include <QPicture>
 
 namespace tarnwick::app {
 
-// The launcher's picture of a microcontroller on its board, 313 by 241 pixels times the scale:
-// each trace on its right ends in the middle of one of the nine buttons. Drawn, not read: that
-// takes less of the start, and is sharp at every scale factor of the screen.
-[[nodiscard]] QPixmap circuitBoard(double scale, double devicePixelRatio);
+// The launcher's picture of a microcontroller on its board, 313 by 241 pixels: each trace on its
+// right ends in the middle of one of the nine buttons. Drawn, not read, it takes less of the start
+// and is sharp at every scale.
+[[nodiscard]] QPicture circuitBoard();
 
 }  // namespace tarnwick::app

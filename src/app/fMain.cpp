@@ -89,7 +89,7 @@ fMain::fMain(WindowSet& windows, GenVar& genVar)
   const double menuWidth = menu->sizeHint().width() + rounding;
   const double scale = std::max(1.0, menuWidth / pictureSize.width());
   client->setFixedSize(pictureSize * scale);
-  layOutPicture(client, scale);
+  layOutPicture(client);
   layOutButtons(client, scale);
 
   auto* layout = new QVBoxLayout(this);
@@ -102,10 +102,11 @@ fMain::fMain(WindowSet& windows, GenVar& genVar)
   Form_Load();
 }
 
-void fMain::layOutPicture(QWidget* client, double scale) {
+void fMain::layOutPicture(QWidget* client) {
   auto* Picture1 = ui::label(client, "Picture1", "");
   Picture1->setAccessibleName(ui::toQt(product::name));
-  Picture1->setPixmap(circuitBoard(scale, devicePixelRatioF()));
+  Picture1->setPicture(circuitBoard());
+  Picture1->setScaledContents(true);
   Picture1->resize(client->size());
 }
 

@@ -14,7 +14,7 @@ public:
   fMain(WindowSet& windows, GenVar& genVar);
 
 private:
-  void layOutPicture(QWidget* client, double scale);
+  void layOutPicture(QWidget* client);
   void layOutButtons(QWidget* client, double scale);
   QMenuBar* makeMenu();
   void Form_Load();
