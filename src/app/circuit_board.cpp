@@ -35,7 +35,7 @@ QPen trace(const char* colour) {
   return {QColor(colour), traceWidth, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin};
 }
 
-// A trace that runs level from x, by 45 degrees up or down, and level again to the end.
+// A trace that runs level, then by 45 degrees up or down, then level again to the end.
 void addTrace(QPainterPath& path, QPointF start, double firstRun, double rise, double end) {
   path.moveTo(start);
   path.lineTo(start.x() + firstRun, start.y());
