@@ -32,35 +32,34 @@ void fEUSART::layOut() {
   const RateTable table =
       rateTable(this, "fResults", "Results BRG16=0", false, {"tSPBRG0", "tCalcBaud0", "tERR0"},
                 {"tSPBRG1", "tCalcBaud1", "tERR1"});
-  auto* fBestMatch = matchGroup(table.group, "fBestMatch", "Best match",
-                                {{&best_.err, "trERR", "Error % :"},
-                                 {&best_.calcBaud, "trCalcBaud", "Calc baud :"},
-                                 {&best_.spbrg, "trSPBRG", "SPBRG :"},
-                                 {&trSPBRGH, "trSPBRGH", "BRGH :"}});
+  auto* fBestMatch = matchGroup(
+      table.group, "fBestMatch", "Best match",
+      {{&best_.err, "trERR", "Error % :"}, {&best_.calcBaud, "trCalcBaud", "Calc baud :"}},
+      {{&best_.spbrg, "trSPBRG", "SPBRG :"}, {&trSPBRGH, "trSPBRGH", "BRGH :"}});
   table.grid->addWidget(fBestMatch, 3, 0, 1, -1);
   ui::packTopLeft(table.grid);
 
   const RateTable table16 = rateTable(this, "fResults16", "Results BRG16=1", true,
                                       {"tSPBRG16_0", "tCalcBaud16_0", "tERR16_0"},
                                       {"tSPBRG16_1", "tCalcBaud16_1", "tERR16_1"});
-  auto* fBestMatch16 = matchGroup(table16.group, "fBestMatch16", "Best match",
-                                  {{&best16_.err, "trERR16", "Error % :"},
-                                   {&best16_.calcBaud, "trCalcBaud16", "Calc baud :"},
-                                   {&best16_.spbrg, "trSPBRG16(0)", "SPBRG :"},
-                                   {&best16_.spbrgh, "trSPBRG16(1)", "SPBRGH :"},
-                                   {&trSPBRGH16, "trSPBRGH16", "BRGH :"}});
+  auto* fBestMatch16 = matchGroup(
+      table16.group, "fBestMatch16", "Best match",
+      {{&best16_.err, "trERR16", "Error % :"}, {&best16_.calcBaud, "trCalcBaud16", "Calc baud :"}},
+      {{&best16_.spbrg, "trSPBRG16(0)", "SPBRG :"},
+       {&best16_.spbrgh, "trSPBRG16(1)", "SPBRGH :"},
+       {&trSPBRGH16, "trSPBRGH16", "BRGH :"}});
   table16.grid->addWidget(fBestMatch16, 3, 0, 1, -1);
   ui::packTopLeft(table16.grid);
 
   rows_ = {table.brgh0, table.brgh1, table16.brgh0, table16.brgh1};
 
-  auto* fFinal = matchGroup(this, "fFinal", "Final best match",
-                            {{&tfERR, "tfERR", "Error % :"},
-                             {&tfCalcBaud, "tfCalcBaud", "Calc baud :"},
-                             {&tfSPBRG, "tfSPBRG", "SPBRG :"},
-                             {&TSPBRGH, "TSPBRGH", "SPBRGH :"},
-                             {&tfBRGH, "tfBRGH", "BRGH :"},
-                             {&tfBRG16, "tfBRG16", "BRG16 :"}});
+  auto* fFinal =
+      matchGroup(this, "fFinal", "Final best match",
+                 {{&tfERR, "tfERR", "Error % :"}, {&tfCalcBaud, "tfCalcBaud", "Calc baud :"}},
+                 {{&tfSPBRG, "tfSPBRG", "SPBRG :"},
+                  {&TSPBRGH, "TSPBRGH", "SPBRGH :"},
+                  {&tfBRGH, "tfBRGH", "BRGH :"},
+                  {&tfBRG16, "tfBRG16", "BRG16 :"}});
   cCopyRegister = ui::button(this, "cCopyRegister", "Copy register settings to clipboard");
   CopyClip = ui::button(this, "CopyClip", "Copy PBP DEFINEs to clipboard");
 

@@ -29,8 +29,7 @@ void selectQuietly(ui::OptionGroup& units, calc::DelayUnit unit) {
 // Makes the columns of one width; its digits end their names.
 void addColumns(QGroupBox* frame, const std::string& width, WidthResults& results) {
   auto* grid = ui::grid(frame);
-  const std::string_view widestPreload = width == "8" ? "255" : "65535";
-  results.tPreload = ui::headedColumn(grid, "tPreload" + width, "Preload", widestPreload, lines);
+  results.tPreload = ui::headedColumn(grid, "tPreload" + width, "Preload", "65535", lines);
   results.tPrescaler = ui::headedColumn(grid, "tPrescaler" + width, "Prescaler", "1:256", lines);
   results.tCalc = ui::headedColumn(grid, "tCalc" + width, "Calc", widestCalc, lines);
   results.tERR = ui::headedColumn(grid, "tERR" + width, "Error %", "00.000 %", lines);

@@ -21,11 +21,10 @@ void fUSART::layOut() {
 
   ui::packTopLeft(table.grid);
 
-  auto* fBestMatch = matchGroup(this, "fBestMatch", "Best match",
-                                {{&best_.err, "trERR", "Error % :"},
-                                 {&best_.calcBaud, "trCalcBaud", "Calc Baud :"},
-                                 {&best_.spbrg, "trSPBRG", "SPBRG :"},
-                                 {&trSPBRGH, "trSPBRGH", "BRGH :"}});
+  auto* fBestMatch = matchGroup(
+      this, "fBestMatch", "Best match",
+      {{&best_.err, "trERR", "Error % :"}, {&best_.calcBaud, "trCalcBaud", "Calc Baud :"}},
+      {{&best_.spbrg, "trSPBRG", "SPBRG :"}, {&trSPBRGH, "trSPBRGH", "BRGH :"}});
   cCopyRegister = ui::button(this, "cCopyRegister", "Copy register settings to clipboard");
   CopyClip = ui::button(this, "CopyClip", "Copy PBP DEFINEs to clipboard");
 

@@ -44,12 +44,17 @@ private:
   int column_ = 0;
 };
 
-// Adds a table for labelled fields to the right end of the grid.
-QGridLayout* side(QGridLayout* grid) {
-  auto* table = ui::grid(nullptr);
-  table->setContentsMargins(0, 0, 0, 0);
-  grid->addLayout(table, 0, grid->columnCount(), Qt::AlignTop);
-  return table;
+// Adds labelled fields, one below the other, at the right end of the grid.
+void addSide(QGroupBox* group, QGridLayout* sides, std::string_view widest,
+             std::initializer_list<MatchField> fields) {
+  auto* side = ui::grid(nullptr);
+  side->setContentsMargins(0, 0, 0, 0);
+  sides->addLayout(side, 0, sides->columnCount(), Qt::AlignTop);
+  for (const MatchField& match : fields) {
+    *match.field = new ui::ResultField(group, match.name, widest);
+    ui::alignInColumn(**match.field, widest);
+    ui::labelledRow(side, "l" + std::string(match.name), match.label, *match.field);
+  }
 }
 
 RateFields addRow(const RateTable& table, int row, std::string_view caption, bool bytePair,
@@ -94,20 +99,13 @@ RateTable rateTable(QWidget* parent, std::string_view name, std::string_view cap
 }
 
 QGroupBox* matchGroup(QWidget* parent, std::string_view name, std::string_view caption,
-                      std::initializer_list<MatchField> fields) {
+                      std::initializer_list<MatchField> rate,
+                      std::initializer_list<MatchField> registers) {
   auto* group = ui::group(parent, name, caption);
   auto* sides = ui::grid(group);
   sides->setHorizontalSpacing(2 * sides->horizontalSpacing());
-  auto* rate = side(sides);
-  auto* registers = side(sides);
-  for (const MatchField& match : fields) {
-    const bool isRegister = rate->count() == 2 * 2;  // after error and rate, each with its label
-    const std::string_view widest = isRegister ? widestSpbrg : widestError;
-    *match.field = new ui::ResultField(group, match.name, widest);
-    ui::alignInColumn(**match.field, widest);
-    ui::labelledRow(isRegister ? registers : rate, "l" + std::string(match.name), match.label,
-                    *match.field);
-  }
+  addSide(group, sides, widestError, rate);
+  addSide(group, sides, widestSpbrg, registers);
   ui::packTopLeft(sides);
   return group;
 }

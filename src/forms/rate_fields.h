@@ -47,9 +47,11 @@ struct MatchField {
   std::string_view label;
 };
 
-// Makes the fields of a best match in a group of their own.
+// Makes the fields of a best match in a group of their own: error and rate on its left side, the
+// registers on its right.
 [[nodiscard]] QGroupBox* matchGroup(QWidget* parent, std::string_view name,
                                     std::string_view caption,
-                                    std::initializer_list<MatchField> fields);
+                                    std::initializer_list<MatchField> rate,
+                                    std::initializer_list<MatchField> registers);
 
 }  // namespace tarnwick::forms

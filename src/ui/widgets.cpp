@@ -263,6 +263,7 @@ EditableList::EditableList(QWidget* parent, std::string_view name,
   disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
   fill(*this, items);
   setMinimumContentsLength(static_cast<int>(widest.size()));
+  setSizeAdjustPolicy(AdjustToContents);  // by default its width changes when it is first shown
   connect(this, &QComboBox::activated, this, &EditableList::chosen);
   connect(this, &QComboBox::editTextChanged, this, &EditableList::edited);
 }

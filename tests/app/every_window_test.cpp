@@ -12,7 +12,9 @@
 #include <QStyle>
 
 #include <algorithm>
+#include <map>
 #include <set>
+#include <tuple>
 
 namespace tarnwick::tests {
 namespace {
@@ -117,6 +119,28 @@ bool areApart(const QWidget* one, const QWidget* other) {
   return one == other || !other->isVisible() || one->objectName() == "Picture1" ||
          other->objectName() == "Picture1" ||
          !one->geometry().marginsRemoved(line).intersects(other->geometry().marginsRemoved(line));
+}
+
+TEST_F(EveryWindow, KeepsThePlacesInWhichItOpened) {
+  std::map<const QWidget*, QRect> places;
+  for (const QWidget* opened : all)
+    for (const auto* control : opened->findChildren<QWidget*>())
+      if (!control->objectName().startsWith("qt_")) places[control] = control->geometry();
+  QTest::qWait(50);
+  for (const auto& [control, place] : places)
+    EXPECT_EQ(control->geometry(), place) << ui::fromQt(control->objectName());
+}
+
+TEST_F(EveryWindow, ShowsTheWidestRateWhole) {
+  for (const auto& [name, oscillator, field] :
+       {std::tuple("fUSART", "36.571424", "tCalcBaud1"), {"fEUSART", "64", "tCalcBaud16_1"}}) {
+    turnTo(name);
+    enterAndConfirm("fOSC", oscillator);
+    click("cKBaud");
+    enterAndConfirm("BaudRate", "2285.714");
+    EXPECT_EQ(shown(field), "2285.714 K");
+    EXPECT_GE(control(field)->width(), neededWidth(control(field))) << name;
+  }
 }
 
 // Holds with every font and at every scale factor: the list of tests has it with some of them.

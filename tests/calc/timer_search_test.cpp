@@ -40,6 +40,14 @@ TEST(SearchTimer, FindsPreloadsAndTheBest) {
   }
 }
 
+TEST(TimerMatchTexts, ListPeriodsAndErrorsToThreeDigits) {
+  // An instruction cycle of 4/3 us.
+  const auto texts = timerMatchTexts(search(256, 3, 1, 10, uSec), uSec);
+  EXPECT_EQ(texts.prescaler, "1:1\r\n1:2\r\n1:4\r\n1:8\r\n");
+  EXPECT_EQ(texts.calc, "10.667 uSec\r\n12.0 uSec\r\n12.0 uSec\r\n12.0 uSec\r\n");
+  EXPECT_EQ(texts.error, "6.25 %\r\n16.667 %\r\n16.667 %\r\n16.667 %\r\n");
+}
+
 TEST(SearchTimer, LeavesOutTheBounds) {
   // 256 counts are one more than a prescaler of 1 has.
   EXPECT_EQ(search(256, 4, 1, 257, uSec).list().front().Prescaler, 2);
