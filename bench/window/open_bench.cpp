@@ -2,6 +2,7 @@
 // opening of each window, and the median of more.
 
 #include "app/gen_var.h"
+#include "app/program.h"
 #include "app/window_set.h"
 #include "app/windows.h"
 
@@ -77,6 +78,7 @@ std::function<void()> clickOn(QWidget& launcher, const char* name) {
 int main(int argc, char* argv[]) {
   using namespace tarnwick;
   QApplication application(argc, argv);
+  app::prepare();
   app::GenVar genVar;
   app::WindowSet windows;
   app::addWindows(windows, genVar);

@@ -1,4 +1,4 @@
-// The program as it is, which opens all of its windows as soon as the launcher is there.
+// The program as it is, with every button of its launcher pressed as soon as it is there.
 
 #include "painted.h"
 

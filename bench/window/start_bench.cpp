@@ -1,6 +1,6 @@
 // Start-up time to the painted window, processor time and resident memory: the launcher, its bare
-// twin, an empty window and all windows of the program, run in turn on the display that is there.
-// Prints medians and ratios.
+// twin, an empty window and all windows of the program, run in changing order on the display that
+// is there. Prints medians and ratios.
 //   start_bench [runs]
 
 #include <algorithm>
@@ -36,7 +36,7 @@ double milliseconds(const timeval& time) {
 }
 
 Sample runOnce(const std::string& program) {
-  std::this_thread::sleep_for(std::chrono::milliseconds(150));
+  std::this_thread::sleep_for(std::chrono::milliseconds(150));  // the display settles
   std::array<int, 2> pipeEnds{};
   if (pipe(pipeEnds.data()) != 0) fail(program);
   const auto start = std::chrono::steady_clock::now().time_since_epoch();

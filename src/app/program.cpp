@@ -6,6 +6,7 @@
 #include "ui/text.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QImage>
 #include <QPixmap>
 #include <QProxyStyle>
@@ -30,15 +31,25 @@ public:
   }
 };
 
-}  // namespace
-
+// From pixels, which need no decoding at the start.
 QIcon programIcon() {
   QIcon icon;
   for (const int size : {16, 32, 48, 96}) {
-    const QResource pixels(QStringLiteral(":/tarnwick-%1.rgba").arg(size));
-    icon.addPixmap(QPixmap::fromImage(QImage(pixels.data(), size, size, QImage::Format_RGBA8888)));
+    const QByteArray pixels =
+        QResource(QStringLiteral(":/tarnwick-%1.rgba").arg(size)).uncompressedData();
+    const auto* bytes = reinterpret_cast<const uchar*>(pixels.constData());
+    icon.addPixmap(QPixmap::fromImage(QImage(bytes, size, size, QImage::Format_RGBA8888)));
   }
   return icon;
+}
+
+}  // namespace
+
+void prepare() {
+  QApplication::setApplicationName(ui::toQt(common::product::name));
+  QGuiApplication::setDesktopFileName(QStringLiteral("tarnwick"));
+  QApplication::setStyle(new Style);
+  QApplication::setWindowIcon(programIcon());
 }
 
 void readFonts() {
@@ -48,10 +59,7 @@ void readFonts() {
 }
 
 int run() {
-  QApplication::setApplicationName(ui::toQt(common::product::name));
-  QGuiApplication::setDesktopFileName(QStringLiteral("tarnwick"));
-  QApplication::setStyle(new Style);
-  QApplication::setWindowIcon(programIcon());
+  prepare();
   GenVar genVar;
   WindowSet windows;
   addWindows(windows, genVar);

@@ -1,11 +1,9 @@
 #pragma once
 
-#include <QIcon>
-
 namespace tarnwick::app {
 
-// The icon of the program's windows, from pixels that need no decoding at the start.
-[[nodiscard]] QIcon programIcon();
+// Gives the application object its name, its style and the icon of its windows.
+void prepare();
 
 // Reads the desktop's font configuration, a third of the instructions of a start, if that was not
 // begun yet; otherwise waits until it is done. To be called on a thread of its own while the

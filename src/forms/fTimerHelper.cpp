@@ -18,6 +18,7 @@ namespace {
 constexpr int counts8 = 256;
 constexpr int counts16 = 65536;
 constexpr int lines = static_cast<int>(calc::timerPrescalers.size());
+constexpr std::string_view widestPreload = "65535";
 constexpr std::string_view widestCalc = "0000000000.000 uSec";
 
 // Selects a unit without the click step, which would recalculate.
@@ -29,7 +30,7 @@ void selectQuietly(ui::OptionGroup& units, calc::DelayUnit unit) {
 // Makes the columns of one width; its digits end their names.
 void addColumns(QGroupBox* frame, const std::string& width, WidthResults& results) {
   auto* grid = ui::grid(frame);
-  results.tPreload = ui::headedColumn(grid, "tPreload" + width, "Preload", "65535", lines);
+  results.tPreload = ui::headedColumn(grid, "tPreload" + width, "Preload", widestPreload, lines);
   results.tPrescaler = ui::headedColumn(grid, "tPrescaler" + width, "Prescaler", "1:256", lines);
   results.tCalc = ui::headedColumn(grid, "tCalc" + width, "Calc", widestCalc, lines);
   results.tERR = ui::headedColumn(grid, "tERR" + width, "Error %", "00.000 %", lines);

@@ -255,15 +255,15 @@ EditableList::EditableList(QWidget* parent, std::string_view name,
                            std::span<const std::string_view> items, std::string_view widest)
     : QComboBox(parent) {
   setObjectName(toQt(name));
+  // Before the entry field is made, which fixes the width until the list is first shown.
+  fill(*this, items);
+  setMinimumContentsLength(static_cast<int>(widest.size()));
   setEditable(true);
   setInsertPolicy(QComboBox::NoInsert);
   setCompleter(nullptr);
   keepOnOneLine(*lineEdit());
   // The list would take a typed text that equals an item for a choice of that item.
   disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
-  fill(*this, items);
-  setMinimumContentsLength(static_cast<int>(widest.size()));
-  setSizeAdjustPolicy(AdjustToContents);  // by default its width changes when it is first shown
   connect(this, &QComboBox::activated, this, &EditableList::chosen);
   connect(this, &QComboBox::editTextChanged, this, &EditableList::edited);
 }

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QToolButton>
 
 namespace tarnwick::tests {
 namespace {
@@ -27,12 +28,15 @@ protected:
 TEST_F(Launcher, StandsWhereItWasDrawn) {
   auto* picture = control<QLabel>("Picture1");
   EXPECT_EQ(picture->geometry(), QRect(0, 0, 313, 241));
-  EXPECT_EQ(picture->picture(Qt::ReturnByValue).boundingRect().size(), picture->size());
+  const QImage drawn = picture->grab().toImage();
   int top = 13;
   for (const char* name : {"cTimer", "cTimerHelper", "cUSART", "cEUSART", "cSerinSerout2", "cPWM",
                            "cAD", "Command1", "cCustomChar"}) {
     const auto* button = control<QPushButton>(name);
     EXPECT_EQ(button->geometry(), QRect(180, top, 121, 23)) << name;
+    // A trace ends in its middle.
+    EXPECT_EQ(drawn.pixelColor(button->geometry().center()), QColor(0x6f, 0xa9, 0xaa)) << name;
+    EXPECT_NE(drawn.pixelColor(240, top + 23), QColor(0x6f, 0xa9, 0xaa)) << name;
     EXPECT_LE(button->fontMetrics().horizontalAdvance(button->text()), 115) << name;
     EXPECT_EQ(focused(), name);  // the tab order runs from top to bottom
     press(Qt::Key_Tab);
@@ -40,7 +44,14 @@ TEST_F(Launcher, StandsWhereItWasDrawn) {
   }
 }
 
+// Reading the picture of that button would take a noticeable part of the start.
+TEST_F(Launcher, LeavesTheButtonForMoreCommandsEmpty) {
+  EXPECT_TRUE(control<QToolButton>("qt_menubar_ext_button")->icon().isNull());
+}
+
 TEST_F(Launcher, HasTheIconThatADesktopShows) {
+  const QSize large(96, 96);  // the About box at a scale factor of 2
+  EXPECT_TRUE(window("fMain")->windowIcon().availableSizes().contains(large));
   for (const int size : {16, 32, 48}) {
     const QImage desktops(QStringLiteral(TESTS_FOLDER "/../resources/tarnwick-%1.png").arg(size));
     const QPixmap own = window("fMain")->windowIcon().pixmap({size, size}, 1.0);

@@ -8,6 +8,6 @@ int main(int argc, char* argv[]) {
   if (testing::GTEST_FLAG(list_tests)) return RUN_ALL_TESTS();
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
-  QApplication::setWindowIcon(tarnwick::app::programIcon());
+  tarnwick::app::prepare();
   return RUN_ALL_TESTS();
 }
