@@ -19,9 +19,9 @@
 namespace tarnwick::app {
 namespace {
 
-// The desktop's style without the picture for the rest of a menu bar that has no room for all its
-// commands, as the launcher's always has. To read it would load every plugin for pictures: a
-// twentieth of the start.
+// The desktop's style, but without a picture on the button for commands that a menu bar has no room
+// for: the launcher's has room for all, and to read the picture would load every plugin for
+// pictures, a twentieth of the start.
 class Style : public QProxyStyle {
 public:
   QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
