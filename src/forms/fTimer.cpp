@@ -167,11 +167,9 @@ int fTimer::preloadAtZero() const {
   return Is8Bit ? 0 : halfOf16Bits;
 }
 
+// The slider keeps the reload in its range and writes it back.
 void fTimer::tReload_Validate() {
-  const double typed = tReload->number();
-  if (typed > 15) tReload->setContents("15");
-  if (typed == 0) tReload->setContents("1");
-  scrollreload->refreshPosition(common::toWhole<std::int32_t>(typed));
+  scrollreload->refreshPosition(common::toWhole<std::int32_t>(tReload->number()));
   DoCalc();
 }
 

@@ -34,7 +34,7 @@ QString textOf(const QWidget* control) {
   return {};
 }
 
-// A window's title and its controls in their tab order: name, what it shows, length limit.
+// A window's title and its controls in their tab order: name, what it shows, how much it takes.
 QString described(const QWidget* window) {
   QString text = "== " + window->objectName() + ": " + window->windowTitle() + "\n";
   for (const QWidget* control = window->nextInFocusChain(); control != window;
@@ -45,6 +45,8 @@ QString described(const QWidget* window) {
     if (const auto* field = qobject_cast<const QLineEdit*>(control);
         field != nullptr && !field->isReadOnly() && field->maxLength() < 32767)
       text += " at most " + QString::number(field->maxLength());
+    if (const auto* list = qobject_cast<const QComboBox*>(control))
+      text += " of " + QString::number(list->count());
     text += control->isEnabled() ? "" : " disabled";
     text += control->isHidden() ? " hidden\n" : "\n";
   }

@@ -32,6 +32,7 @@ TEST(PwmSearch, TestsThePeriodRegisterBeforeItIsRounded) {
     EXPECT_EQ(match ? std::optional(match->PR2) : std::nullopt, PR2) << F;
     EXPECT_EQ(matches.aboveRange, aboveRange) << F;
   }
+  EXPECT_FALSE(PwmSearch(4e6, 1e6 / 16).aboveRange);  // a register value of 0 with prescaler 16
 }
 
 TEST(PwmSearch, MatchesNothingOutsideTheNumbers) {
