@@ -1,4 +1,4 @@
-// The program as it is, with every button of its launcher pressed as soon as it is there.
+// The program as it is, with every button and About pressed as soon as its launcher is there.
 
 #include "painted.h"
 

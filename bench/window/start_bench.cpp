@@ -80,7 +80,8 @@ int main(int argc, char* argv[]) {
   // In another order each time: the display is still busy with the end of a large program.
   std::vector<std::size_t> order(names.size());
   std::iota(order.begin(), order.end(), 0);
-  std::mt19937 generator;                  // NOLINT: the same orders in each measurement
+  std::mt19937 generator;  // NOLINT(cert-msc51-cpp): the same orders in each measurement
+
   for (int run = -2; run < runs; ++run) {  // the first two warm the caches
     std::ranges::shuffle(order, generator);
     for (const std::size_t i : order) {
