@@ -141,6 +141,16 @@ TEST_F(Widgets, ResultFieldStandsOnTheBackgroundOfEachPalette) {
   QApplication::setPalette(QPalette());
 }
 
+TEST_F(Widgets, ResultFieldStaysSelectedWhenItChangesAsTheTabKeyComes) {
+  ui::ResultField result(&window, "result", "000");
+  result.show();
+  QObject::connect(&field, &ui::EntryField::validate, &result, [&] { result.setContents("42"); });
+  result.setContents("7");
+  EXPECT_EQ(result.selectedText(), "");
+  result.setFocus(Qt::TabFocusReason);
+  EXPECT_EQ(result.selectedText(), "42");
+}
+
 TEST_F(Widgets, EntryFieldIsCutAtItsLength) {
   field.setContents("1234567");
   EXPECT_EQ(field.contents(), "12345");
