@@ -12,16 +12,13 @@
 #include <QProxyStyle>
 #include <QResource>
 
-#ifdef TARNWICK_FONTCONFIG
-#include <fontconfig/fontconfig.h>
-#endif
-
 namespace tarnwick::app {
 namespace {
 
 // The desktop's style, but without a picture on the button for commands that a menu bar has no room
 // for: the launcher's has room for all, and to read the picture would load every plugin for
-// pictures, a twentieth of the start.
+// pictures. Medians of 41 starts, by turns: 29.4 ms and 30.0 MiB with the picture, 27.8 ms and
+// 29.5 MiB without; the bare twin (with the picture, as every program with a menu) 27.2 and 29.2.
 class Style : public QProxyStyle {
 public:
   QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
@@ -50,12 +47,6 @@ void prepare() {
   QGuiApplication::setDesktopFileName(QStringLiteral("tarnwick"));
   QApplication::setStyle(new Style);
   QApplication::setWindowIcon(programIcon());
-}
-
-void readFonts() {
-#ifdef TARNWICK_FONTCONFIG
-  [[maybe_unused]] static const FcBool done = FcInit();
-#endif
 }
 
 int run() {
