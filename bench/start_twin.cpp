@@ -1,15 +1,16 @@
-#include "painted.h"
+// A window with the launcher's menu commands and captions, and no program behind them; with an
+// argument an empty one.
+
+#include "measure.h"
 
 #include <QApplication>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QVBoxLayout>
 
-// A window with the launcher's menu commands and captions, and no program behind them.
-int main(int argc, char* argv[]) {
-  QApplication application(argc, argv);
-  tarnwick::bench::reportWhenPainted(1);
-  QWidget window;
+namespace {
+
+void fill(QWidget& window) {
   window.setWindowTitle(QStringLiteral("Twin"));
   auto* client = new QWidget(&window);
   client->setFixedSize(313, 241);
@@ -27,6 +28,16 @@ int main(int argc, char* argv[]) {
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setMenuBar(menu);
   layout->addWidget(client);
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+  QApplication application(argc, argv);
+  tarnwick::bench::reportWhenPainted(1);
+  QWidget window;
+  window.resize(313, 260);
+  if (argc == 1) fill(window);
   window.show();
   return QApplication::exec();
 }

@@ -6,6 +6,7 @@
 #include "app/gen_var.h"
 #include "app/window_set.h"
 #include "app/windows.h"
+#include "measure.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -14,7 +15,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <malloc.h>
-#include <unistd.h>
 
 namespace {
 
@@ -24,14 +24,9 @@ struct Memory {
 };
 
 Memory memory() {
-  constexpr double mebibyte = 1024 * 1024;
   const struct mallinfo2 heap = mallinfo2();
-  long pages = 0;
-  std::FILE* statm = std::fopen("/proc/self/statm", "r");
-  if (statm == nullptr || std::fscanf(statm, "%*d %ld", &pages) != 1) std::abort();
-  std::fclose(statm);
-  return {.allocated = static_cast<double>(heap.uordblks + heap.hblkhd) / mebibyte,
-          .resident = static_cast<double>(pages * sysconf(_SC_PAGESIZE)) / mebibyte};
+  return {.allocated = static_cast<double>(heap.uordblks + heap.hblkhd) / (1024 * 1024),
+          .resident = static_cast<double>(tarnwick::bench::residentKiB()) / 1024};
 }
 
 void settle() {

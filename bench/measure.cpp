@@ -1,4 +1,4 @@
-#include "painted.h"
+#include "measure.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -21,7 +21,6 @@
 #endif
 
 namespace tarnwick::bench {
-namespace {
 
 long residentKiB() {
 #ifdef Q_OS_WIN
@@ -38,6 +37,8 @@ long residentKiB() {
   return resident * sysconf(_SC_PAGESIZE) / 1024;
 #endif
 }
+
+namespace {
 
 void report() {
   const auto now = std::chrono::steady_clock::now().time_since_epoch();
