@@ -1,12 +1,13 @@
 #include "common/read_number.h"
 
+#include "common/number_text.h"
+
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cmath>
-#include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <string>
 #include <system_error>
 
 namespace tarnwick::common {
@@ -14,59 +15,35 @@ namespace {
 
 constexpr double largest = std::numeric_limits<double>::max();
 
-bool isBlank(char c) {
-  return c == ' ' || c == '\t' || c == '\n';
+// Takes the text's first character off if it is one of the set.
+bool takeOne(std::string_view& text, std::string_view set) {
+  if (text.empty() || set.find(text.front()) == set.npos) return false;
+  text.remove_prefix(1);
+  return true;
 }
-bool isDigit(char c) {
-  return c >= '0' && c <= '9';
+
+// Takes a sign off and answers whether it is "-".
+bool takeMinus(std::string_view& text) {
+  return !takeOne(text, "+") && takeOne(text, "-");
 }
 
-// Hands out the characters of a text one by one, blanks left out; '\0' stands for the end, which
-// continues a number no more than an embedded NUL does.
-class Scanner {
-public:
-  explicit Scanner(std::string_view text) : text_(text) { skipBlanks(); }
-
-  char peek() const { return at_ < text_.size() ? text_[at_] : '\0'; }
-  char take() {
-    const char c = peek();
-    ++at_;
-    skipBlanks();
-    return c;
-  }
-  bool takeIf(char c) {
-    if (peek() != c) return false;
-    take();
-    return true;
-  }
-
-private:
-  void skipBlanks() {
-    while (at_ < text_.size() && isBlank(text_[at_])) ++at_;
-  }
-
-  std::string_view text_;
-  std::size_t at_ = 0;
-};
-
-int digitValue(char c) {
-  if (isDigit(c)) return c - '0';
-  if (c >= 'A' && c <= 'F') return c - 'A' + 10;
-  if (c >= 'a' && c <= 'f') return c - 'a' + 10;
-  return 16;
+std::string_view takeDigits(std::string_view& text) {
+  const std::string_view digits = text.substr(0, text.find_first_not_of("0123456789"));
+  text.remove_prefix(digits.size());
+  return digits;
 }
 
 // Reads a hexadecimal or octal whole number behind its "&". The first 61 to 64 bits are kept as
 // they are, any one further on only in the lowest of them: enough to round as the whole text does.
-double readRadix(Scanner& scanner) {
-  const char mark = scanner.take();
-  const bool hexadecimal = mark == 'H' || mark == 'h';
-  if (!hexadecimal && mark != 'O' && mark != 'o') return 0;
+double readRadix(std::string_view text) {
+  const bool hexadecimal = takeOne(text, "Hh");
+  if (!hexadecimal && !takeOne(text, "Oo")) return 0;
   const int bitsPerDigit = hexadecimal ? 4 : 3;
   std::uint64_t bits = 0;
   int power = 0;  // of two, by which the bits are multiplied
-  while (digitValue(scanner.peek()) < 1 << bitsPerDigit) {
-    const auto digit = static_cast<unsigned>(digitValue(scanner.take()));
+  for (const char& c : text) {
+    unsigned digit = 0;
+    if (std::from_chars(&c, &c + 1, digit, 1 << bitsPerDigit).ec != std::errc()) break;
     if (bits >> 60 == 0) {
       bits = bits << bitsPerDigit | digit;
     } else {
@@ -77,84 +54,47 @@ double readRadix(Scanner& scanner) {
   return std::min(std::ldexp(static_cast<double>(bits), power), largest);
 }
 
-// The digits of a decimal number from the first one on that is not 0, as the whole number that
-// they make, times ten to the power `power`. More digits than the array holds cannot change what
-// the number rounds to, except by one of them not being 0; the last digit kept stands for that.
-struct Decimal {
-  static constexpr std::size_t maximum = 800;  // halfway between two doubles needs at most 768
-  static constexpr std::size_t exponentRoom = 24;
-
-  std::array<char, maximum + exponentRoom> digits;
-  std::size_t count = 0;
-  std::int64_t power = 0;
-
-  void add(char digit, bool fraction) {
-    if (count < maximum) {
-      if (count > 0 || digit != '0') digits[count++] = digit;
-      if (fraction) --power;
-      return;
-    }
-    if (digit != '0') digits[maximum - 1] = '1';
-    if (!fraction) ++power;
-  }
-};
-
-void readMantissa(Scanner& scanner, Decimal& decimal) {
-  bool point = false;
-  for (;; scanner.take()) {
-    const char c = scanner.peek();
-    if (isDigit(c)) {
-      decimal.add(c, point);
-    } else if (c == '.' && !point) {
-      point = true;
-    } else {
-      return;
-    }
-  }
-}
-
-// Reads what follows a mantissa: an exponent's letter, sign and digits; what is missing counts as
-// 0. Exponents beyond any text's reach are cut, so that no sum with a count of digits can overflow.
-std::int64_t readExponent(Scanner& scanner) {
+// Reads an exponent's sign and digits; what is missing counts as 0. Cut beyond any text's reach, so
+// that no sum with a count of digits can overflow.
+std::int64_t readExponent(std::string_view text) {
   constexpr std::int64_t reach = 1'000'000'000'000'000;
-  const char mark = scanner.peek();
-  if (mark != 'E' && mark != 'e' && mark != 'D' && mark != 'd') return 0;
-  scanner.take();
-  const bool negative = scanner.takeIf('-');
-  if (!negative) scanner.takeIf('+');
+  const bool negative = takeMinus(text);
   std::int64_t exponent = 0;
-  while (isDigit(scanner.peek()))
-    exponent = std::min(exponent * 10 + (scanner.take() - '0'), reach);
+  for (const char digit : takeDigits(text))
+    exponent = std::min(exponent * 10 + (digit - '0'), reach);
   return negative ? -exponent : exponent;
 }
 
-double readDecimal(Scanner& scanner) {
-  Decimal decimal;
-  readMantissa(scanner, decimal);
-  if (decimal.count == 0) return 0;
+// Reads a decimal number without its sign, as .DIGITSePOINT with a first digit that is not 0: the
+// exponent of that form tells by itself on which side a number leaves the range of a double.
+double readDecimal(std::string_view text) {
+  std::string digits(takeDigits(text));
+  auto point = static_cast<std::int64_t>(digits.size());
+  if (takeOne(text, ".")) digits += takeDigits(text);
+  const std::size_t zeros = digits.find_first_not_of('0');
+  if (zeros == digits.npos) return 0;
+  point -= static_cast<std::int64_t>(zeros);
+  if (takeOne(text, "EeDd")) point += readExponent(text);
 
-  const std::int64_t power = decimal.power + readExponent(scanner);
-  char* const first = decimal.digits.data();
-  char* end = first + decimal.count;
-  if (power != 0) {
-    *end++ = 'e';
-    end = std::to_chars(end, first + decimal.digits.size(), power).ptr;
-  }
+  constexpr std::int64_t beyond = 400;
+  digits.replace(0, zeros, ".");
+  digits += "e" + wholeText(std::clamp(point, -beyond, beyond));
   double value = 0;
-  const auto result = std::from_chars(first, end, value);
+  const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), value);
   if (result.ec != std::errc::result_out_of_range) return value;
-  return power > -static_cast<std::int64_t>(decimal.count) ? largest : 0;
+  return point > 0 ? largest : 0;
 }
 
 }  // namespace
 
 double readNumber(std::string_view text) {
-  Scanner scanner(text);
-  if (scanner.takeIf('&')) return readRadix(scanner);
-  const bool negative = scanner.takeIf('-');
-  if (!negative) scanner.takeIf('+');
-  const double magnitude = readDecimal(scanner);
-  return negative && magnitude != 0 ? -magnitude : magnitude;
+  std::string solid(text);
+  std::erase_if(solid, [](char c) { return c == ' ' || c == '\t' || c == '\n'; });
+  std::string_view rest = solid;
+  if (takeOne(rest, "&")) return readRadix(rest);
+  const bool negative = takeMinus(rest);
+  const double magnitude = readDecimal(rest);
+  return negative ? 0 - magnitude : magnitude;  // no minus zero
 }
 
 }  // namespace tarnwick::common
