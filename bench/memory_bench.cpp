@@ -42,7 +42,7 @@ void openAndCloseAll(tarnwick::app::WindowSet& windows) {
   windows.open("fAbout");
   settle();
   if (QApplication::topLevelWidgets().size() < 11) std::abort();
-  windows.unload("fMain");
+  windows.loaded("fMain")->close();
   settle();
   if (windows.loaded("fAbout") != nullptr) std::abort();
 }

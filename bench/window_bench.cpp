@@ -119,7 +119,7 @@ int main(int argc, char* argv[]) {
   for (int round = 0; round < openings; ++round) {
     for (std::size_t i = 0; i < all.size(); ++i)
       times[i].push_back(openingMilliseconds(painted, *windows.loaded("fMain"), all[i]));
-    for (const Measured& each : all) windows.unload(each.window);
+    for (const Measured& each : all) windows.loaded(each.window)->close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCoreApplication::processEvents();
   }
@@ -134,5 +134,5 @@ int main(int argc, char* argv[]) {
     std::printf(" %9.3f\n", keyPressMilliseconds(*windows.loaded(all[i].window), all[i]));
   }
   std::puts("\nAt most: 16 ms to open a window, fCustomCharacter 32; 1 ms for a key press");
-  windows.unload("fMain");
+  windows.unloadAll();
 }

@@ -2,11 +2,13 @@
 
 #include <QPicture>
 
+#include <vector>
+
 namespace tarnwick::app {
 
-// The launcher's picture of a microcontroller on its board, 313 by 241 pixels: each trace on its
-// right ends in the middle of one of the nine buttons. Drawn, not read, it takes less of the start
-// and is sharp at every scale.
-[[nodiscard]] QPicture circuitBoard();
+// The launcher's picture of a microcontroller on its board, in pixels: from each of its pins on the
+// right a trace runs to the picture's edge, to end there at one of the heights given. Drawn, not
+// read, it is sharp at every scale.
+[[nodiscard]] QPicture circuitBoard(QSize size, const std::vector<double>& traceEnds);
 
 }  // namespace tarnwick::app

@@ -15,10 +15,6 @@ namespace {
 
 namespace product = common::product;
 
-std::string caption() {
-  return "About " + std::string(product::title);
-}
-
 std::string versionLine() {
   using common::wholeText;
   return std::string(product::title) + ", WIP Version " + wholeText(product::major) + "." +
@@ -34,7 +30,7 @@ QFrame* separator(QWidget* parent, int index) {
 
 }  // namespace
 
-fAbout::fAbout() : Window("fAbout", caption()) {
+fAbout::fAbout() : Window("fAbout", "About " + std::string(product::title)) {
   auto* picIcon = ui::label(this, "picIcon", "");
   picIcon->setPixmap(windowIcon().pixmap(48));
   picIcon->setAccessibleName(ui::toQt(product::name));

@@ -18,15 +18,12 @@
 #include <cmath>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tarnwick::app {
 namespace {
 
 namespace product = common::product;
-
-constexpr QSize pictureSize(ui::fromTwips(4695), ui::fromTwips(3615));
-constexpr int buttonLeft = ui::fromTwips(2700);
-constexpr QSize buttonSize(ui::fromTwips(1815), ui::fromTwips(350));
 
 struct LauncherButton {
   std::string_view control;
@@ -36,7 +33,7 @@ struct LauncherButton {
 };
 
 // Top to bottom, which is also the tab order.
-constexpr std::array<LauncherButton, 9> launcherButtons{{
+constexpr auto launcherButtons = std::to_array<LauncherButton>({
     {"cTimer", "Timer calc", 200, "fTimer"},
     {"cTimerHelper", "Timer helper", 560, "fTimerHelper"},
     {"cUSART", "USART calc", 920, "fUSART"},
@@ -46,12 +43,19 @@ constexpr std::array<LauncherButton, 9> launcherButtons{{
     {"cAD", "A/D Calc", 2360, "fMinADTime"},
     {"Command1", "Comparator Vref", 2715, "fComparator"},
     {"cCustomChar", "LCD custom character", 3075, "fCustomCharacter"},
-}};
+});
 
-// Alphabetical, the launcher in its place: it is closing already when its turn comes.
-constexpr std::array<std::string_view, 11> unloadOrder{
-    "fAbout", "fComparator",   "fCustomCharacter", "fEUSART",      "fMain", "fMinADTime",
-    "fPWM",   "fSerinSerout2", "fTimer",           "fTimerHelper", "fUSART"};
+constexpr int buttonLeft = ui::fromTwips(2700);
+constexpr QSize buttonSize(ui::fromTwips(1815), ui::fromTwips(350));
+constexpr QSize pictureSize(ui::fromTwips(4695),
+                            ui::fromTwips(launcherButtons.back().topTwips + 540));
+
+std::vector<double> buttonMiddles() {
+  std::vector<double> middles;
+  for (const LauncherButton& button : launcherButtons)
+    middles.push_back(ui::fromTwips(button.topTwips) + buttonSize.height() / 2.0);
+  return middles;
+}
 
 // How many times larger than this the font may be for every caption to fit a button of the size.
 double room(const QFont& font, QSize button) {
@@ -105,7 +109,7 @@ fMain::fMain(WindowSet& windows, GenVar& genVar)
 void fMain::layOutPicture(QWidget* client) {
   auto* Picture1 = ui::label(client, "Picture1", "");
   Picture1->setAccessibleName(ui::toQt(product::name));
-  Picture1->setPicture(circuitBoard());
+  Picture1->setPicture(circuitBoard(pictureSize, buttonMiddles()));
   Picture1->setScaledContents(true);
   Picture1->resize(client->size());
 }
@@ -117,7 +121,6 @@ void fMain::layOutButtons(QWidget* client, double scale) {
     auto* push = ui::button(client, button.control, button.caption);
     push->setFont(font);
     push->setGeometry(QRect(QPoint(buttonLeft, ui::fromTwips(button.topTwips)) * scale, size));
-    push->setEnabled(windows_.has(button.window));
     connect(push, &QPushButton::clicked, this, [this, button] { windows_.open(button.window); });
   }
 }
@@ -143,7 +146,7 @@ void fMain::Form_Load() {
 }
 
 void fMain::Form_Unload() {
-  for (const std::string_view name : unloadOrder) windows_.unload(name);
+  windows_.unloadAll();
 }
 
 }  // namespace tarnwick::app

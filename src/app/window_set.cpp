@@ -9,17 +9,11 @@ WindowSet::~WindowSet() {
 }
 
 void WindowSet::add(std::string name, Load load) {
-  entries_.insert_or_assign(std::move(name), Entry{.load = std::move(load), .window = nullptr});
-}
-
-bool WindowSet::has(std::string_view name) const {
-  return entries_.contains(name);
+  entries_[std::move(name)].load = std::move(load);
 }
 
 void WindowSet::open(std::string_view name) {
-  const auto found = entries_.find(name);
-  if (found == entries_.end()) return;
-  Entry& entry = found->second;
+  Entry& entry = entries_.at(std::string(name));
   if (entry.window == nullptr) {
     entry.window = entry.load();
     // The window may be closed from one of its own handlers, which is still to return to it.
@@ -31,8 +25,9 @@ void WindowSet::open(std::string_view name) {
   entry.window->bringForward();
 }
 
-void WindowSet::unload(std::string_view name) {
-  if (ui::Window* window = loaded(name)) window->close();
+void WindowSet::unloadAll() {
+  for (auto& [name, entry] : entries_)
+    if (entry.window != nullptr) entry.window->close();
 }
 
 ui::Window* WindowSet::loaded(std::string_view name) const {

@@ -24,12 +24,12 @@ public:
   ~WindowSet();
 
   void add(std::string name, Load load);
-  [[nodiscard]] bool has(std::string_view name) const;
 
-  // Loads the window unless it is loaded, and shows or brings it forward.
+  // Loads the window, which was added, unless it is loaded, and shows or brings it forward.
   void open(std::string_view name);
-  // Closes the window; nothing happens when it is not loaded or is closing already.
-  void unload(std::string_view name);
+  // Closes every window that is loaded, in the alphabetical order of their names; one that is
+  // closing already is left to it.
+  void unloadAll();
   // Answers the window, or nothing while it is not loaded.
   [[nodiscard]] ui::Window* loaded(std::string_view name) const;
 

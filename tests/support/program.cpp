@@ -65,7 +65,7 @@ Program::Program() : shell_(std::make_unique<Shell>(addresses)) {
 }
 
 Program::~Program() {
-  windows.unload("fMain");
+  windows.unloadAll();
   settle();
 }
 
