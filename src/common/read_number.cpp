@@ -77,10 +77,10 @@ double readDecimal(std::string_view text) {
   if (takeOne(text, "EeDd")) point += readExponent(text);
 
   constexpr std::int64_t beyond = 400;
-  digits.replace(0, zeros, ".");
-  digits += "e" + wholeText(std::clamp(point, -beyond, beyond));
+  std::string form = ".";
+  form.append(digits, zeros).append("e").append(wholeText(std::clamp(point, -beyond, beyond)));
   double value = 0;
-  const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), value);
+  const auto result = std::from_chars(form.data(), form.data() + form.size(), value);
   if (result.ec != std::errc::result_out_of_range) return value;
   return point > 0 ? largest : 0;
 }
