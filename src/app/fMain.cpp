@@ -45,15 +45,18 @@ constexpr auto launcherButtons = std::to_array<LauncherButton>({
     {"cCustomChar", "LCD custom character", 3075, "fCustomCharacter"},
 });
 
+constexpr int buttonTwips = 350;  // high
+constexpr int restTwips = 190;    // of the picture below the last button
 constexpr int buttonLeft = ui::fromTwips(2700);
-constexpr QSize buttonSize(ui::fromTwips(1815), ui::fromTwips(350));
-constexpr QSize pictureSize(ui::fromTwips(4695),
-                            ui::fromTwips(launcherButtons.back().topTwips + 540));
+constexpr QSize buttonSize(ui::fromTwips(1815), ui::fromTwips(buttonTwips));
+constexpr QSize pictureSize(ui::fromTwips(4695), ui::fromTwips(launcherButtons.back().topTwips +
+                                                               buttonTwips + restTwips));
 
 std::vector<double> buttonMiddles() {
-  std::vector<double> middles;
-  for (const LauncherButton& button : launcherButtons)
-    middles.push_back(ui::fromTwips(button.topTwips) + buttonSize.height() / 2.0);
+  std::vector<double> middles(launcherButtons.size());
+  std::ranges::transform(launcherButtons, middles.begin(), [](const LauncherButton& button) {
+    return ui::fromTwips(button.topTwips) + buttonSize.height() / 2.0;
+  });
   return middles;
 }
 
@@ -74,10 +77,12 @@ double room(const QFont& font, QSize button) {
 QFont fittingFont(QFont font, QSize button) {
   constexpr double step = 0.5;
   constexpr double smallest = 5;
-  for (double fits = room(font, button); fits < 1; fits = room(font, button)) {
+  double fits = room(font, button);
+  while (fits < 1) {
     const double size = std::floor(QFontInfo(font).pointSizeF() * fits / step) * step;
     if (size < smallest) break;
     font.setPointSizeF(size);
+    fits = room(font, button);
   }
   return font;
 }
