@@ -28,8 +28,8 @@ public:
   }
 };
 
-// From pixels: PNGs would load every plugin for pictures after all, 1.2 ms of a start (the median of
-// 41, thrice).
+// From pixels: PNGs would load every plugin for pictures after all, 1.2 ms of a start (medians of
+// 41, by turns).
 QIcon programIcon() {
   QIcon icon;
   for (const int size : {16, 32, 48, 96}) {

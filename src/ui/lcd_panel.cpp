@@ -15,6 +15,7 @@ constexpr int leftTextLeft = fromTwips(-620);
 constexpr int rightTextLeft = fromTwips(250);
 constexpr int textWidth = -leftTextLeft;
 constexpr int margin = 8;
+constexpr QColor lcdGreen(0, 128, 0);
 
 QFont terminalFont() {
   QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);

@@ -14,7 +14,6 @@ namespace tarnwick::ui {
 
 inline constexpr QColor pixelOff(255, 255, 255);
 inline constexpr QColor pixelOn(0, 0, 0);
-inline constexpr QColor lcdGreen(0, 128, 0);
 
 // The grid on which a character is drawn: one cell a pixel, white while it is off and black while
 // it is on, each a button that is checked while its pixel is on. The grid is one stop of the Tab
