@@ -1,5 +1,6 @@
 #include "calc/adc.h"
 
+#include "common/lines.h"
 #include "common/number_text.h"
 #include "common/rounding.h"
 
@@ -9,6 +10,8 @@
 
 namespace tarnwick::calc {
 namespace {
+
+using common::addLine;
 
 constexpr AdcClock rcClock{"7", "ADCS=111", std::nullopt, "Frc"};
 
@@ -22,59 +25,63 @@ constexpr std::array<AdcClock, 6> oscillatorClocks{{
     {"6", "ADCS=110", 64, "Fosc/64"},
 }};
 
-// The automatic acquisition settings above 2 Tad.
+// The automatic acquisition settings; that of 2 Tad is left out on purpose.
 constexpr std::array<int, 13> acquisitionSettings{4, 6, 8, 12, 16, 20, 24, 28, 32, 36, 40, 48, 64};
 
 // The blanks that bring a comment mark below the one of the line that ends in the time's digits.
-std::string_view padding(double Taq) {
+std::string_view padding(double taqUs) {
   constexpr std::string_view longest = "       ";
-  if (Taq >= 1000) return longest;
-  if (Taq >= 100) return longest.substr(1);
-  if (Taq >= 10) return longest.substr(2);
+  if (taqUs >= 1000) return longest;
+  if (taqUs >= 100) return longest.substr(1);
+  if (taqUs >= 10) return longest.substr(2);
   return longest.substr(3);
 }
 
 }  // namespace
 
-double AcquisitionTime(double Rs) {
-  const double time = ((Rs + 1000) * 840) / 1000000 + 1;
+double AcquisitionTime(double sourceOhms) {
+  const double time = ((sourceOhms + 1000) * 840) / 1000000 + 1;
   return std::ceil(time);
 }
 
-AdcClock ClockChoice(double Fosc) {
-  const auto needed = common::toWhole<std::uint8_t>(64 / (40 / Fosc));
+AdcClock ClockChoice(double foscMHz) {
+  const auto needed = common::toWhole<std::uint8_t>(64 / (40 / foscMHz));
   for (const AdcClock& clock : oscillatorClocks)
     if (needed <= *clock.divisor) return clock;
   return rcClock;
 }
 
-int AcquisitionTad(double Taq, double Fosc, std::optional<int> divisor) {
+int AcquisitionTad(double taqUs, double foscMHz, std::optional<int> divisor) {
   if (!divisor) return 0;
-  const double Tad = (1 / Fosc) * *divisor;
-  const double periods = Taq / Tad;
+  const double Tad = (1 / foscMHz) * *divisor;
+  const double periods = taqUs / Tad;
   if (!(periods > 2)) return 0;
   for (const int setting : acquisitionSettings)
     if (periods <= setting) return setting;
   return acquisitionSettings.back();
 }
 
-std::string adcClockText(const AdcClock& clock) {
-  std::string text(clock.label);
-  text.append(" (").append(clock.adcs).append(")");
-  return text;
+AdcShown showAdc(const AdcInputs& inputs) {
+  const double ohms = inputs.kOhm ? inputs.impedance * 1000 : inputs.impedance;
+  AdcShown shown;
+  shown.Taq = AcquisitionTime(ohms);
+  shown.Clock = ClockChoice(inputs.foscMHz);
+  const auto& [code, adcs, divisor, label] = shown.Clock;
+  const int Tad = AcquisitionTad(shown.Taq, inputs.foscMHz, divisor);
+  shown.clock.append(label).append(" (").append(adcs).append(")");
+  shown.acquisitionTad = common::wholeText(Tad) + " Tad";
+  if (std::isfinite(shown.Taq)) shown.acquisitionTime = common::numberText(shown.Taq) + " uSec";
+  return shown;
 }
 
-std::string AdcDefineText(double Taq, const AdcClock& clock, AdcResolution resolution) {
-  const std::string_view pad = padding(Taq);
+std::string AdcDefineText(double taqUs, const AdcClock& clock, AdcResolution resolution) {
+  const std::string_view pad = padding(taqUs);
+  const bool bits8 = resolution == AdcResolution::Bits8;
   std::string text;
-  text.reserve(160);
-  text.append(resolution == AdcResolution::Bits8 ? "DEFINE ADC_BITS  8" : "DEFINE ADC_BITS 10");
-  text.append(pad).append("' ADCIN resolution  (Bits)").append(common::lineEnd);
-  text.append("DEFINE ADC_CLOCK ").append(clock.code).append(pad);
-  text.append("' ADC clock source  (").append(clock.label).append(")").append(common::lineEnd);
-  text.append("DEFINE ADC_SAMPLEUS ").append(common::numberText(Taq));
-  text.append(" ' ADC sampling time (uSec)");
-  return text;
+  addLine(text, bits8 ? "DEFINE ADC_BITS  8" : "DEFINE ADC_BITS 10", pad,
+          "' ADCIN resolution  (Bits)");
+  addLine(text, "DEFINE ADC_CLOCK ", clock.code, pad, "' ADC clock source  (", clock.label, ")");
+  return text + "DEFINE ADC_SAMPLEUS " + common::numberText(taqUs) + " ' ADC sampling time (uSec)";
 }
 
 }  // namespace tarnwick::calc

@@ -1,9 +1,18 @@
 #pragma once
 
-#include <array>
 #include <optional>
+#include <string>
 
+// What the calculators of the two hardware serial ports have in common: the generator's formulas,
+// its rows, and how a row is shown.
 namespace tarnwick::calc {
+
+// What both ports ask for.
+struct BaudInputs {
+  double foscMHz = 0;  // oscillator frequency, MHz
+  double rate = 0;     // wanted rate: Bd, or kBd with kBaud
+  bool kBaud = false;
+};
 
 // One setting of the mode bits of a baud rate generator. In every array of settings or rows the
 // BRG16 = 0 pair comes first, and within a pair BRGH = 0.
@@ -12,10 +21,6 @@ struct BaudMode {
   double maxSpbrg = 0;  // largest value that the register (or register pair) takes
 };
 
-inline constexpr std::array<BaudMode, 2> usartModes{{{64, 255}, {16, 255}}};
-inline constexpr std::array<BaudMode, 4> eusartModes{
-    {{64, 255}, {16, 255}, {16, 65535}, {4, 65535}}};
-
 // What a generator does in one mode.
 struct BaudRow {
   double Spbrg = 0;  // register value, a whole number
@@ -23,21 +28,16 @@ struct BaudRow {
   double Err = 0;    // (Calc - goal) / goal; 0.01 means 1 % too fast
 };
 
-using UsartRows = std::array<std::optional<BaudRow>, 2>;
-using EusartRows = std::array<std::optional<BaudRow>, 4>;
-
-// SPBRG and SPBRGH of a 16-bit generator.
-struct SpbrgBytes {
-  int low = 0;   // 0 to 255
-  int high = 0;  // 0 to 255
+// A row as its fields show it; all empty where there is none.
+struct RateTexts {
+  std::string spbrgh;  // high byte, where the register value is shown as two bytes
+  std::string spbrg;   // whole value, or low byte
+  std::string calcBaud;
+  std::string err;
 };
 
-// Which rows of an EUSART fit best.
-struct EusartBest {
-  std::optional<bool> BestBRGH;    // BRGH of the best BRG16 = 0 row; none where no row is usable
-  std::optional<bool> BestBRGH16;  // BRGH of the best BRG16 = 1 row; none where no row is usable
-  bool FinalBRG16 = false;         // BRG16 of the better of the two
-};
+// Answers the wanted rate in Bd.
+[[nodiscard]] double goalBaud(double rate, bool kBaud);
 
 // Answers the SPBRG value whose count comes nearest to what the baud rate (Bd) needs at the
 // oscillator frequency (MHz); an exact half goes to the even value. It is not limited to what a
@@ -54,24 +54,28 @@ struct EusartBest {
 // Source: data sheets, "Calculating Baud Rate Error".
 [[nodiscard]] double BaudError(double calc, double goal);
 
-// Answers both rows of a USART for the oscillator (MHz) and the goal (Bd), SPBRG limited to 0..255.
-// A row whose calculation is not finite on the way is absent.
-[[nodiscard]] UsartRows usartRows(double foscMHz, double goalBaud);
+// Answers the unlimited register value of a mode at the oscillator frequency (MHz) for the goal
+// (Bd); none when a step of its calculation is not finite.
+[[nodiscard]] std::optional<double> wantedSpbrg(const BaudMode& mode, double foscMHz,
+                                                double goalBaud);
 
-// Answers the four rows of an EUSART for the oscillator (MHz) and the goal (Bd), SPBRG limited from
-// above only: a row with a value of 0 or less is not usable and absent. Errors are kept to the 15
-// significant digits that their number text has. A calculation that is not finite on the way is a
-// fault of the whole: no rows at all.
-[[nodiscard]] std::optional<EusartRows> eusartRows(double foscMHz, double goalBaud);
+// Answers the row of a register value; none when its error, also in percent, is not finite.
+[[nodiscard]] std::optional<BaudRow> baudRow(const BaudMode& mode, double foscMHz, double goalBaud,
+                                             double spbrg);
 
-// Answers the BRGH of the row with the smaller error; a tie goes to BRGH = 0, a lone row wins.
-[[nodiscard]] std::optional<bool> usartBest(const UsartRows& rows);
+// Answers the BRGH of the row with the smaller error of a pair; a tie goes to BRGH = 0, a lone row
+// wins, no row gives none.
+[[nodiscard]] std::optional<bool> betterBRGH(const std::optional<BaudRow>& row0,
+                                             const std::optional<BaudRow>& row1);
 
-// Answers the best row of each BRG16 group (a tie goes to BRGH = 0, a lone row wins) and the better
-// group (a tie goes to BRG16 = 1); none when no row is usable.
-[[nodiscard]] std::optional<EusartBest> eusartBest(const EusartRows& rows);
+// Answers how a relative error is shown: "0.16%".
+[[nodiscard]] std::string errorText(double err);
 
-// Answers the two register bytes of a whole value from 0 to 65535.
-[[nodiscard]] SpbrgBytes spbrgBytes(double spbrg);
+// Answers how a row is shown, its register value as one number, its rate in Bd or, followed by
+// " K", in kBd.
+[[nodiscard]] RateTexts rateTexts(const std::optional<BaudRow>& row, bool kBaud);
+
+// Answers how the BRGH bit is shown.
+[[nodiscard]] std::string bitText(bool bit);
 
 }  // namespace tarnwick::calc

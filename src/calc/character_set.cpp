@@ -24,80 +24,73 @@ std::string joined(const std::array<std::string, common::matrixRows>& labels) {
 
 }  // namespace
 
-CharacterSet OpenEditor(CharacterSet set) {
+void OpenEditor(CharacterSet& set) {
   set.shown = {};
-  set = Clear(std::move(set));
-  set = SetLeadText(std::move(set), "AB");
-  set = SetFollowText(std::move(set), "CD");
+  Clear(set);
+  SetLeadText(set, "AB");
+  SetFollowText(set, "CD");
   set.kept.SelectedSlot = 0;
-  return set;
 }
 
-CharacterSet TogglePixel(CharacterSet set, std::size_t p) {
+void TogglePixel(CharacterSet& set, std::size_t p) {
   set.kept.Pixels.flip(p);
   set.shown.LastPixel = static_cast<std::uint8_t>(p);
-  return UpdateCharacter(std::move(set));
+  UpdateCharacter(set);
 }
 
-CharacterSet UpdateCharacter(CharacterSet set) {
+void UpdateCharacter(CharacterSet& set) {
   const std::size_t p = set.shown.LastPixel;
   const std::size_t row = p / common::matrixColumns;
   CharacterSlot& slot = set.shown.slotTable.at(set.kept.SelectedSlot);
 
   set.shown.lLine.at(row) = rowLabel(set.kept.Pixels, row);
   slot.picture.set(p, set.kept.Pixels.test(p));
-  if (set.kept.Pixels.none()) return DeleteSelectedCharacter(std::move(set));
+  if (set.kept.Pixels.none()) return DeleteSelectedCharacter(set);
 
   std::string& data = set.kept.CharacterData.at(set.kept.SelectedSlot);
   data = joined(set.shown.lLine);
   slot.dataDisplay = data.substr(1);
   slot.enabled = true;
-  return set;
 }
 
-CharacterSet SelectSlot(CharacterSet set, std::size_t slot) {
+void SelectSlot(CharacterSet& set, std::size_t slot) {
   set.kept.Pixels = set.shown.slotTable.at(slot).picture;
   set.kept.SelectedSlot = static_cast<std::uint8_t>(slot);
   for (std::size_t p = 0; p < common::matrixPixels; p += common::matrixColumns) {
     set.shown.LastPixel = static_cast<std::uint8_t>(p);
-    set = UpdateCharacter(std::move(set));
+    UpdateCharacter(set);
   }
-  return set;
 }
 
-CharacterSet InvertAll(CharacterSet set) {
-  for (std::size_t p = 0; p < common::matrixPixels; ++p) set = TogglePixel(std::move(set), p);
-  return set;
+void InvertAll(CharacterSet& set) {
+  for (std::size_t p = 0; p < common::matrixPixels; ++p) TogglePixel(set, p);
 }
 
-CharacterSet Clear(CharacterSet set) {
+void Clear(CharacterSet& set) {
   set.shown.lLine.fill(std::string(blankLabel));
-  return DeleteSelectedCharacter(std::move(set));
+  DeleteSelectedCharacter(set);
 }
 
-CharacterSet DeleteSelectedCharacter(CharacterSet set) {
+void DeleteSelectedCharacter(CharacterSet& set) {
   set.kept.Pixels.reset();
   set.kept.CharacterData.at(set.kept.SelectedSlot).clear();
   set.shown.slotTable.at(set.kept.SelectedSlot) = {};
-  return set;
 }
 
-CharacterSet DeleteAll(CharacterSet set) {
+void DeleteAll(CharacterSet& set) {
   for (std::size_t slot = 0; slot < slotCount; ++slot) {
     set.kept.SelectedSlot = static_cast<std::uint8_t>(slot);
-    set = DeleteSelectedCharacter(std::move(set));
+    DeleteSelectedCharacter(set);
   }
-  return SelectSlot(std::move(set), 0);
+  SelectSlot(set, 0);
 }
 
-CharacterSet SetLeadText(CharacterSet set, std::string text) {
+void SetLeadText(CharacterSet& set, std::string text) {
   set.shown.leadText = std::move(text);
-  return set;
 }
 
-CharacterSet SetFollowText(CharacterSet set, std::string text) {
+void SetFollowText(CharacterSet& set, std::string text) {
   set.shown.followText = std::move(text);
-  return set;
 }
 
 }  // namespace tarnwick::calc

@@ -55,39 +55,40 @@ struct CharacterSet {
   Shown shown;
 };
 
-// Each operation answers the set as it is afterwards. A pixel or slot number out of range is a
-// fault of the caller and throws std::out_of_range.
+// The operations change the set in place. A pixel or slot number out of range is a fault of the
+// caller and throws std::out_of_range.
 
 // The window is opened: blank grid, pictures and fields, labels "$00", slot 0 selected, "AB" and
 // "CD" around the preview. The data of the slot that was selected is dropped, that of the others
 // kept.
-[[nodiscard]] CharacterSet OpenEditor(CharacterSet set);
+void OpenEditor(CharacterSet& set);
 
 // Toggles pixel p of the selected slot and refreshes its row and what depends on it.
-[[nodiscard]] CharacterSet TogglePixel(CharacterSet set, std::size_t p);
+void TogglePixel(CharacterSet& set, std::size_t p);
 
 // Recomputes the label of LastPixel's row, that pixel of the selected slot's picture and the slot's
 // character data. A slot without a pixel that is on loses its data, description and alias.
-[[nodiscard]] CharacterSet UpdateCharacter(CharacterSet set);
+void UpdateCharacter(CharacterSet& set);
 
 // Loads the slot's picture into the grid and recomputes all eight rows.
-[[nodiscard]] CharacterSet SelectSlot(CharacterSet set, std::size_t slot);
+void SelectSlot(CharacterSet& set, std::size_t slot);
 
 // Toggles every pixel, one after the other from pixel 0 on. Where the slot has no pixel on in
 // between, its description and alias are lost.
-[[nodiscard]] CharacterSet InvertAll(CharacterSet set);
+void InvertAll(CharacterSet& set);
 
 // Deletes the selected character and resets the row labels to "$00".
-[[nodiscard]] CharacterSet Clear(CharacterSet set);
+void Clear(CharacterSet& set);
 
-// Deletes the selected slot's picture, data, description and alias; the row labels stay.
-[[nodiscard]] CharacterSet DeleteSelectedCharacter(CharacterSet set);
+// Deletes the selected slot's picture, data, description and alias; the row labels stay
+// (docs/ON_PURPOSE.md).
+void DeleteSelectedCharacter(CharacterSet& set);
 
 // Deletes every slot and selects slot 0, which recomputes the row labels.
-[[nodiscard]] CharacterSet DeleteAll(CharacterSet set);
+void DeleteAll(CharacterSet& set);
 
 // Shows the text on the simulated LCD in front of the character, or behind it.
-[[nodiscard]] CharacterSet SetLeadText(CharacterSet set, std::string text);
-[[nodiscard]] CharacterSet SetFollowText(CharacterSet set, std::string text);
+void SetLeadText(CharacterSet& set, std::string text);
+void SetFollowText(CharacterSet& set, std::string text);
 
 }  // namespace tarnwick::calc

@@ -1,52 +1,52 @@
 #include "calc/comparator.h"
 
+#include "common/lines.h"
 #include "common/number_text.h"
+
+#include <bitset>
 
 namespace tarnwick::calc {
 namespace {
+
+using common::addLine;
+using common::format;
 
 constexpr int lastCVR = 15;
 constexpr double maxVdd = 5.25;  // V
 
 }  // namespace
 
-double VrefLow(int CVR, double Vdd) {
-  return (CVR / 24.0) * Vdd;
+double VrefLow(int CVR, double vdd) {
+  return (CVR / 24.0) * vdd;
 }
 
-double VrefHigh(int CVR, double Vdd) {
-  return Vdd * 0.25 + (CVR / 32.0) * Vdd;
+double VrefHigh(int CVR, double vdd) {
+  return vdd * 0.25 + (CVR / 32.0) * vdd;
 }
 
-bool isValidVdd(double Vdd) {
-  return Vdd != 0 && Vdd <= maxVdd;
+bool isValidVdd(double vdd) {
+  return vdd != 0 && vdd <= maxVdd;
 }
 
-std::string lowRangeText(double Vdd) {
-  return "0.000 - " + common::format(VrefLow(lastCVR, Vdd), "0.000") + " Volt";
+ComparatorShown showComparator(const ComparatorInputs& inputs) {
+  const auto& [vdd, range] = inputs;
+  ComparatorShown shown;
+  shown.lowRange = "0.000 - " + format(VrefLow(lastCVR, vdd), "0.000") + " Volt";
+  shown.highRange =
+      format(VrefHigh(0, vdd), "0.000") + " - " + format(VrefHigh(lastCVR, vdd), "0.000") + " Volt";
+  for (int CVR = 0; CVR <= lastCVR; ++CVR)
+    addLine(shown.vref,
+            format(range == VrefRange::Low ? VrefLow(CVR, vdd) : VrefHigh(CVR, vdd), "##0.000"));
+  return shown;
 }
 
-std::string highRangeText(double Vdd) {
-  return common::format(VrefHigh(0, Vdd), "0.000") + " - " +
-         common::format(VrefHigh(lastCVR, Vdd), "0.000") + " Volt";
-}
-
-std::string vrefColumn(VrefRange range, double Vdd) {
-  std::string column;
-  column.reserve(std::size_t{16} * 8);
-  for (int CVR = 0; CVR <= lastCVR; ++CVR) {
-    const double voltage = range == VrefRange::Low ? VrefLow(CVR, Vdd) : VrefHigh(CVR, Vdd);
-    column.append(common::format(voltage, "##0.000")).append(common::lineEnd);
-  }
-  return column;
+ComparatorShown next(ComparatorShown shown, const ComparatorInputs& inputs) {
+  return isValidVdd(inputs.vdd) ? showComparator(inputs) : shown;
 }
 
 std::string cvrColumn() {
   std::string column;
-  for (int CVR = 0; CVR <= lastCVR; ++CVR) {
-    for (int bit = 3; bit >= 0; --bit) column.push_back((CVR >> bit) % 2 == 0 ? '0' : '1');
-    column.append(common::lineEnd);
-  }
+  for (unsigned CVR = 0; CVR <= lastCVR; ++CVR) addLine(column, std::bitset<4>(CVR).to_string());
   return column;
 }
 

@@ -1,11 +1,10 @@
 #include "calc/lcd_text.h"
 
 #include "common/lines.h"
-#include "common/number_text.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
-#include <cstdint>
 #include <string_view>
 
 namespace tarnwick::calc {
@@ -20,8 +19,8 @@ std::string block(std::string_view heading, std::string_view lines) {
   if (lines.empty()) return {};
   std::string text;
   addLine(text, "    '");
-  addLine(text, "    '    " + std::string(heading));
-  addLine(text, "    '    " + std::string(heading.size(), '='));
+  addLine(text, "    '    ", heading);
+  addLine(text, "    '    ", std::string(heading.size(), '='));
   text += lines;
   addLine(text, "");
   return text;
@@ -51,7 +50,7 @@ std::string defineLines(const LcdSettings& settings) {
   std::string lines;
   for (const Define& define : defines) {
     if (define.readWrite && settings.readWritePort.empty()) continue;
-    addLine(lines, std::string(define.prefix).append(define.value).append(define.suffix));
+    addLine(lines, define.prefix, define.value, define.suffix);
   }
   return lines;
 }
@@ -70,27 +69,17 @@ std::string padded(std::string_view alias) {
 
 }  // namespace
 
-LcdCharacters lcdCharacters(const CharacterSet& set) {
-  LcdCharacters characters;
-  for (std::size_t i = 0; i < slotCount; ++i) {
-    const CharacterSlot& slot = set.shown.slotTable[i];
-    characters[i] = {set.kept.CharacterData[i], slot.description, slot.constantAlias};
-  }
-  return characters;
-}
-
 std::string BuildLcdText(const LcdSettings& settings, bool includeDefines,
-                         const LcdCharacters& characters) {
+                         const CharacterSet& set) {
   const std::string setUp = includeDefines ? defineLines(settings) : std::string();
   std::string definitions;
   std::string constants;
   for (std::size_t i = 0; i < slotCount; ++i) {
-    const auto& [data, description, alias] = characters[i];
-    if (!alias.empty())
-      addLine(constants, padded(alias) + " CON " + common::wholeText(static_cast<std::int64_t>(i)));
-    if (!data.empty()) {
-      addLine(definitions, std::string(CgramCommand[i]).append(data + " ' ").append(description));
-    }
+    const CharacterSlot& slot = set.shown.slotTable[i];
+    const std::string& data = set.kept.CharacterData[i];
+    if (!slot.constantAlias.empty())
+      addLine(constants, padded(slot.constantAlias), " CON ", std::to_string(i));
+    if (!data.empty()) addLine(definitions, CgramCommand[i], data, " ' ", slot.description);
   }
   return block("LCD setup", setUp) + block("Custom character definition", definitions) +
          block("Custom character constant(s)", constants);

@@ -2,7 +2,6 @@
 
 #include "calc/character_set.h"
 
-#include <array>
 #include <string>
 
 namespace tarnwick::calc {
@@ -24,18 +23,6 @@ struct LcdSettings {
   std::string dataDelayUs;     // LCD_DATAUS, us
 };
 
-// What the text says of one slot.
-struct LcdCharacter {
-  std::string characterData;  // empty while the slot is not in use
-  std::string description;    // UTF-8
-  std::string constantAlias;  // UTF-8, at most 20 characters; empty where there is none
-};
-
-using LcdCharacters = std::array<LcdCharacter, slotCount>;
-
-// Answers what the set holds for the text, by slot.
-[[nodiscard]] LcdCharacters lcdCharacters(const CharacterSet& set);
-
 // Answers the PBP text, lines ended by CR LF, in up to three blocks, each followed by an empty
 // line: the DEFINE lines of the LCD's wiring when they are to be included (those of the read/write
 // line only with a read/write port); one LCDOUT statement for each character in use, which sets the
@@ -43,6 +30,6 @@ using LcdCharacters = std::array<LcdCharacter, slotCount>;
 // is the character's code. Nothing to say gives empty text.
 // Source: PBP manual, LCDOUT and its defines.
 [[nodiscard]] std::string BuildLcdText(const LcdSettings& settings, bool includeDefines,
-                                       const LcdCharacters& characters);
+                                       const CharacterSet& set);
 
 }  // namespace tarnwick::calc

@@ -37,56 +37,53 @@ struct PwmDutyValue {
   double Duty = 0;      // achieved duty cycle, percent
 };
 
-// The columns that list the matches: one line a match, each ended by CR LF, in slot order.
-struct PwmMatchTexts {
+struct PwmInputs {
+  double foscMHz = 0;      // oscillator frequency, MHz
+  double frequency = 0;    // wanted PWM frequency: Hz, or kHz with kHz
+  bool kHz = false;        // also the unit in which achieved frequencies are shown
+  double dutyPercent = 0;  // wanted duty cycle
+};
+
+// What the window shows. Columns have one line a match, each ended by CR LF, in slot order.
+struct PwmShown {
+  PwmMatches matches;  // found last; the duty columns are made of them
+  std::string minFreq;
+  std::string maxFreq;
   std::string calcFreq;
   std::string prescaler;
   std::string resolution;
   std::string maxDutyVal;
   std::string dutyStep;
   std::string PR2;
-};
-
-struct PwmDutyTexts {
   std::string dutyRegister;
   std::string calcDuty;
 };
 
-struct PwmLimitTexts {
-  std::string min;
-  std::string max;
-};
-
-// Answers the lowest and the highest PWM frequency of an oscillator of `Fosc` Hz.
+// Answers the lowest and the highest PWM frequency of an oscillator.
 // Source: mid-range family reference manual, CCP module, PWM mode:
 // period = (PR2 + 1) * 4 * Tosc * prescaler.
-[[nodiscard]] PwmLimits PwmRange(double Fosc);
+[[nodiscard]] PwmLimits PwmRange(double foscHz);
 
-// Answers every prescaler that gives a PWM frequency of `F` Hz with a PR2 of 0..255 before it is
-// rounded, at an oscillator of `Fosc` Hz. The maximum duty value belongs to the wanted frequency,
-// so it can differ a little from 4 * (PR2 + 1). An input of 0 or one that is not
-// finite matches nothing, nor does a negative one beside a positive one. Source: as for PwmRange;
-// duty = register * Tosc * prescaler.
-[[nodiscard]] PwmMatches PwmSearch(double Fosc, double F);
+// Answers every prescaler that gives a PWM frequency with a PR2 of 0..255 before it is rounded. The
+// maximum duty value belongs to the wanted frequency, so it can differ a little from
+// 4 * (PR2 + 1). An input of 0 or one that is not finite matches nothing, nor does a negative one
+// beside a positive one. Source: as for PwmRange; duty = register * Tosc * prescaler.
+[[nodiscard]] PwmMatches PwmSearch(double foscHz, double frequencyHz);
 
-// Answers the duty register value nearest to a duty cycle of `D` percent of the achieved period,
-// never above the match's maximum, and the duty cycle that it gives, at an oscillator of `Fosc` Hz.
-// Results are not finite for an `Fosc` of 0 or beyond the range of a double.
-[[nodiscard]] PwmDutyValue PwmDuty(const PwmMatch& match, double D, double Fosc);
+// Answers the duty register value nearest to a duty cycle of the achieved period, never above the
+// match's maximum, and the duty cycle that it gives. Results are not finite for an oscillator of 0
+// or beyond the range of a double.
+[[nodiscard]] PwmDutyValue PwmDuty(const PwmMatch& match, double dutyPercent, double foscHz);
 
 // Answers the PWM resolution in bits, 1..10, by the maximum duty register value. The steps are
-// those of a fixed table without one at 128: 65 to 256 are all 8 bits.
+// those of a fixed table without one at 128: 65 to 256 are all 8 bits (docs/ON_PURPOSE.md).
 [[nodiscard]] int PwmResolution(double maxDutyVal);
 
-// Answers how the range is shown: in Hz, KHz or MHz.
-[[nodiscard]] PwmLimitTexts pwmLimitTexts(const PwmLimits& limits);
+// Answers all that the window shows: the reachable range, the matches and their duty columns.
+[[nodiscard]] PwmShown showPwm(const PwmInputs& inputs);
 
-// Answers the columns of the matches, the achieved frequency in KHz or else in Hz.
-[[nodiscard]] PwmMatchTexts pwmMatchTexts(const PwmMatches& matches, bool inKHz);
-
-// Answers the duty columns of the matches for a duty cycle of `D` percent at an oscillator of
-// `Fosc` Hz, or nothing when `Fosc` is 0 and no duty can be stated.
-[[nodiscard]] std::optional<PwmDutyTexts> pwmDutyTexts(const PwmMatches& matches, double D,
-                                                       double Fosc);
+// Answers what is shown when the duty cycle alone changes: the duty columns of the matches found
+// last. An oscillator of 0, for which no duty can be stated, leaves them as they were.
+[[nodiscard]] PwmShown next(PwmShown shown, const PwmInputs& inputs);
 
 }  // namespace tarnwick::calc

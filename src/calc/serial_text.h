@@ -1,6 +1,10 @@
 #pragma once
 
+#include "calc/eusart.h"
+#include "calc/usart.h"
+
 #include <string>
+#include <string_view>
 
 namespace tarnwick::calc {
 
@@ -12,42 +16,27 @@ struct SerialGoal {
   std::string osc;     // MHz
 };
 
-// The best match of the USART calculator, as numbers.
-struct UsartSetup {
-  SerialGoal goal;
-  bool BestBRGH = false;
-  double Spbrg = 0;  // whole number, 0 to 255
-  double Err = 0;    // relative; 0.01 means 1 %
-};
-
-// The final best match of the EUSART calculator, as the texts that its fields show.
-struct EusartSetup {
-  SerialGoal goal;
-  std::string brg16;     // "0": 8-bit generator; any other text: 16-bit
-  std::string brgh;      // "1": high speed; any other text: low speed
-  std::string spbrg;     // low byte
-  std::string spbrgh;    // high byte, used with the 16-bit generator only
-  std::string err;       // with its "%"
-  std::string location;  // register and bit of BRG16, such as "BAUDCON.3"; any text is taken
-};
-
 // The four texts below are lines of PBP code, each ended by CR LF, that set up the serial port.
 // The comments of a text stand in one column, but for what is said of each.
 // Source: the compiler's manual, HSERIN and HSEROUT; data sheets, RCSTA, TXSTA and BAUDCON.
 
 // Answers the assignments to RCSTA, TXSTA and SPBRG, with comments in column 13.
-[[nodiscard]] std::string UsartRegisterText(const UsartSetup& setup);
+[[nodiscard]] std::string UsartRegisterText(const SerialGoal& goal, const UsartMatch& match);
 
 // Answers the DEFINE lines, with comments in column 23.
-[[nodiscard]] std::string UsartDefineText(const UsartSetup& setup);
+[[nodiscard]] std::string UsartDefineText(const SerialGoal& goal, const UsartMatch& match);
 
 // Answers the assignments to RCSTA, TXSTA and SPBRG, and for the 16-bit generator to SPBRGH and the
-// BRG16 bit, with comments in column 15 (for a location of nine characters). An 8-bit SPBRG of
-// exactly 10 or 100 has neither comment mark nor rate: the line goes on with the unit of the rate.
-[[nodiscard]] std::string EusartRegisterText(const EusartSetup& setup);
+// BRG16 bit (`location`, any text as it stands), with comments in column 15 for a location of nine
+// characters. An 8-bit SPBRG of exactly 10 or 100 has neither comment mark nor rate: the line goes
+// on with the unit of the rate (docs/ON_PURPOSE.md).
+[[nodiscard]] std::string EusartRegisterText(const SerialGoal& goal, const EusartShown& shown,
+                                             std::string_view location);
 
 // Answers the DEFINE lines, for the 16-bit generator followed by the assignments to SPBRGH and the
-// BRG16 bit, with comments in column 23; the comment of an 8-bit SPBRG follows one space behind it.
-[[nodiscard]] std::string EusartDefineText(const EusartSetup& setup);
+// BRG16 bit, with comments in column 23; the comment of an 8-bit SPBRG follows one space behind it
+// (docs/ON_PURPOSE.md).
+[[nodiscard]] std::string EusartDefineText(const SerialGoal& goal, const EusartShown& shown,
+                                           std::string_view location);
 
 }  // namespace tarnwick::calc

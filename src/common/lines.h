@@ -1,16 +1,17 @@
 #pragma once
 
-#include "common/number_text.h"
-
 #include <string>
 #include <string_view>
 
 namespace tarnwick::common {
 
-// Appends one line with its line end to a multi-line text.
-inline void addLine(std::string& text, std::string_view line) {
-  text += line;
-  text += lineEnd;
+// The line end of every multi-line text that is shown or copied.
+inline constexpr std::string_view lineEnd = "\r\n";
+
+// Appends one line, made of the pieces, with its line end to a multi-line text.
+template <typename... Pieces>
+void addLine(std::string& text, const Pieces&... pieces) {
+  (text.append(pieces), ..., text.append(lineEnd));
 }
 
 }  // namespace tarnwick::common

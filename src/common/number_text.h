@@ -27,7 +27,4 @@ namespace tarnwick::common {
 [[nodiscard]] std::string formatWithUnit(double value, std::string_view pattern,
                                          std::string_view unit);
 
-// The line end of every multi-line text that is shown or copied.
-inline constexpr std::string_view lineEnd = "\r\n";
-
 }  // namespace tarnwick::common

@@ -9,13 +9,13 @@ std::optional<Message> OscillatorSetting::SetOsc(double value) {
     Osc = 1;
     return std::nullopt;
   }
-  if (!MaxOsc || value <= *MaxOsc) {
+  if (!(value > MaxOsc)) {
     Osc = value;
     return std::nullopt;
   }
-  Osc = *MaxOsc;
+  Osc = MaxOsc;
   return Message{.title = "Oscillator speed to high",
-                 .text = "As now maximum allowed is " + wholeText(*MaxOsc) + " MHz"};
+                 .text = "As now maximum allowed is " + wholeText(MaxOsc) + " MHz"};
 }
 
 }  // namespace tarnwick::common

@@ -14,8 +14,8 @@ struct Message {
 
 // The oscillator frequency last accepted in any window and the check that every entered one passes.
 struct OscillatorSetting {
-  double Osc = 0;                      // MHz
-  std::optional<std::int16_t> MaxOsc;  // MHz; no value, and no upper check, until it is set
+  double Osc = 0;           // MHz
+  std::int16_t MaxOsc = 0;  // MHz; set when the program starts
 
   // Accepts an entered frequency in MHz into Osc: 0 becomes 1, one above MaxOsc becomes MaxOsc and
   // gives the message to show; any other, also a negative one, is kept as it is.

@@ -1,15 +1,16 @@
 #include "forms/fComparator.h"
 
-#include "calc/comparator.h"
 #include "common/product.h"
 #include "ui/layout.h"
 #include "ui/text.h"
 
+#include <utility>
+
 namespace tarnwick::forms {
 namespace {
 
-constexpr int lowRange = 1;  // oVrefRange indices
-constexpr int highRange = 2;
+constexpr int lowRange = static_cast<int>(calc::VrefRange::Low);  // oVrefRange indices
+constexpr int highRange = static_cast<int>(calc::VrefRange::High);
 constexpr int columnLines = 16;
 
 // A bold label that holds the span of a range and never widens the window.
@@ -43,14 +44,13 @@ void fComparator::layOut() {
   ui::row(fVdd, {tVdd, ui::label(fVdd, "tLabelVdd", "Volt")});
 
   auto* fVrefRange = ui::group(this, "fVrefRange", "Vref range");
-  oVrefRange = new ui::OptionGroup(fVrefRange, "oVrefRange",
-                                   {{lowRange, "Low  (CVRR=0)"}, {highRange, "High (CVRR=1)"}});
+  oVrefRange = new ui::OptionGroup(fVrefRange, "oVrefRange");
   tLabelLowRange = spanLabel(fVrefRange, "tLabelLowRange");
   tLabelHighRange = spanLabel(fVrefRange, "tLabelHighRange");
   auto* ranges = ui::grid(fVrefRange);
-  ranges->addWidget(oVrefRange->button(lowRange), 0, 0);
+  ranges->addWidget(oVrefRange->add(lowRange, "Low  (CVRR=0)"), 0, 0);
   ranges->addWidget(tLabelLowRange, 1, 0);
-  ranges->addWidget(oVrefRange->button(highRange), 2, 0);
+  ranges->addWidget(oVrefRange->add(highRange, "High (CVRR=1)"), 2, 0);
   ranges->addWidget(tLabelHighRange, 3, 0);
 
   auto* fResults = ui::group(this, "fResults", "Results");
@@ -85,19 +85,23 @@ void fComparator::Form_Load() {
 }
 
 void fComparator::CalcVref() {
-  const double Vdd = tVdd->number();
-  const auto range =
-      oVrefRange->selected() == lowRange ? calc::VrefRange::Low : calc::VrefRange::High;
-  tLabelLowRange->setText(ui::toQt(calc::lowRangeText(Vdd)));
-  tLabelHighRange->setText(ui::toQt(calc::highRangeText(Vdd)));
-  tVref->setContents(calc::vrefColumn(range, Vdd));
+  show(calc::showComparator(inputs()));
+}
+
+calc::ComparatorInputs fComparator::inputs() const {
+  return {.vdd = tVdd->number(), .range = static_cast<calc::VrefRange>(oVrefRange->selected())};
+}
+
+void fComparator::show(calc::ComparatorShown shown) {
+  shown_ = std::move(shown);
+  tLabelLowRange->setText(ui::toQt(shown_.lowRange));
+  tLabelHighRange->setText(ui::toQt(shown_.highRange));
+  tVref->setContents(shown_.vref);
 }
 
 void fComparator::tVdd_Validate() {
-  if (calc::isValidVdd(tVdd->number())) {
-    CalcVref();
-    return;
-  }
+  show(calc::next(shown_, inputs()));
+  if (calc::isValidVdd(tVdd->number())) return;
   showMessage(QMessageBox::Critical, common::product::title, "Invalid Vdd");
   VddPointTyped = false;
   tVdd->setFocus();

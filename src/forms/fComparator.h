@@ -1,5 +1,6 @@
 #pragma once
 
+#include "calc/comparator.h"
 #include "ui/entry_field.h"
 #include "ui/widgets.h"
 
@@ -17,6 +18,8 @@ private:
 
   // Reads supply and range and rewrites both range labels and the column of voltages.
   void CalcVref();
+  [[nodiscard]] calc::ComparatorInputs inputs() const;
+  void show(calc::ComparatorShown shown);
 
   void tVdd_Validate();
 
@@ -27,6 +30,7 @@ private:
   ui::ResultColumn* Text1;
   ui::ResultColumn* tVref;
 
+  calc::ComparatorShown shown_;
   bool VddPointTyped = false;
 };
 

@@ -14,28 +14,10 @@
 namespace tarnwick::forms {
 namespace {
 
-using Items = std::span<const std::string_view>;
-
-constexpr std::array<std::string_view, 10> ports{"PORTA", "PORTB", "PORTC", "PORTD", "PORTE",
-                                                 "PORTF", "PORTG", "PORTH", "PORTI", "PORTJ"};
-constexpr std::array<std::string_view, 8> bits{"0", "1", "2", "3", "4", "5", "6", "7"};
-constexpr std::array<std::string_view, 2> dataBits{"0", "4"};
-constexpr std::array<std::string_view, 2> busWidths{"4", "8"};
-constexpr std::array<std::string_view, 2> lineCounts{"2", "4"};
-constexpr int portB = 1;  // items of the lists
-constexpr int first = 0;
-
 constexpr int nameLength = 20;
 constexpr int slotPitch = ui::fromTwips(480);
 constexpr int slotGap = 4;  // between fields, where a large font makes rows higher than that
 constexpr std::string_view widestData = " $00, $00, $00, $00, $00, $00, $00, $00";
-
-ui::EditableList* list(QWidget* parent, std::string_view name, std::string_view spoken,
-                       Items items) {
-  auto* made = new ui::EditableList(parent, name, items, items.front());
-  ui::nameAfter(made, spoken);
-  return made;
-}
 
 void showText(QLineEdit& field, const std::string& text) {
   if (ui::fromQt(field.text()) != text) field.setText(ui::toQt(text));
@@ -44,52 +26,12 @@ void showText(QLineEdit& field, const std::string& text) {
 }  // namespace
 
 fCustomCharacter::fCustomCharacter(calc::CharacterSet& characters)
-    : Window("fCustomCharacter", "LCD Custom character generator"), characters_(characters) {
+    : Window("fCustomCharacter", "LCD Custom character generator"),
+      settings_(this),
+      characters_(characters) {
   layOut();
-  connectSettings();
   connectEditor();
   Form_Load();
-}
-
-QWidget* fCustomCharacter::layOutSettings() {
-  auto* group = ui::group(this, "fSettings", "LCD settings");
-  auto* table = ui::grid(group);
-  table->addWidget(ui::label(group, "lPort", "Port"), 0, 1, Qt::AlignHCenter);
-  table->addWidget(ui::label(group, "lBit", "Bit"), 0, 2, Qt::AlignHCenter);
-
-  const auto wire = [&](const std::string& name, std::string_view caption, Items bitItems) {
-    const std::string spoken(caption.substr(0, caption.find(' ')));
-    const int row = table->rowCount();
-    const Wire made{list(group, "Port" + name, spoken + " port", ports),
-                    list(group, "Bit" + name, spoken + " bit", bitItems)};
-    table->addWidget(ui::label(group, "l" + name, caption), row, 0, Qt::AlignRight);
-    table->addWidget(made.port, row, 1);
-    table->addWidget(made.bit, row, 2);
-    return made;
-  };
-  data = wire("Data", "Data", dataBits);
-  registerSelect = wire("RS", "RS", bits);
-  enable = wire("E", "E", bits);
-  readWrite = wire("RW", "R/W ", bits);
-
-  const auto setting = [&](int row, std::string_view name, std::string_view caption,
-                           QWidget* field) {
-    ui::nameAfter(field, caption);
-    table->addWidget(ui::label(group, name, caption), row, 4, Qt::AlignRight);
-    table->addWidget(field, row, 5, Qt::AlignLeft);
-  };
-  Bits = list(group, "Bits", "Mode", busWidths);
-  Lines = list(group, "Lines", "Lines", lineCounts);
-  tCommandUS = new ui::EntryField(group, "tCommandUS", {.maxLength = 4, .widest = "00000"});
-  tDataUS = new ui::EntryField(group, "tDataUS", {.maxLength = 3, .widest = "00000"});
-  setting(1, "lMode", "Mode", Bits);
-  setting(2, "lLines", "Lines", Lines);
-  setting(3, "lCommandUS", "Command (uSec)", tCommandUS);
-  setting(4, "lDataUS", "Data (uSec)", tDataUS);
-  table->addWidget(ui::label(group, "lBits", "bits"), 1, 6);
-  table->setColumnStretch(3, 1);
-  table->setColumnStretch(7, 2);
-  return group;
 }
 
 QWidget* fCustomCharacter::layOutSlots() {
@@ -101,9 +43,8 @@ QWidget* fCustomCharacter::layOutSlots() {
   table->addWidget(ui::label(parent, "lDescription", "Description/comment"), 0, 3);
   table->addWidget(ui::label(parent, "lConstant", "Constant alias"), 0, 4);
 
-  std::array<ui::OptionGroup::Option, calc::slotCount> options{};
-  for (int i = 0; auto& option : options) option.index = i++;
-  oChar = new ui::OptionGroup(parent, "oChar", options);
+  oChar = new ui::OptionGroup(parent, "oChar");
+  for (int i = 0; i < static_cast<int>(calc::slotCount); ++i) oChar->add(i, "");
   for (int i = 0; SlotRow & slot : slotRows) {
     const std::string number = common::wholeText(i);
     slot.picture =
@@ -188,7 +129,7 @@ QWidget* fCustomCharacter::layOutResults() {
 
 void fCustomCharacter::layOut() {
   auto* window = ui::grid(this);
-  window->addWidget(layOutSettings(), 0, 0, 3, 1);
+  window->addWidget(settings_.group, 0, 0, 3, 1);
   window->addWidget(layOutSlots(), 3, 0, 2, 1, Qt::AlignTop);
   Image2 = new ui::LcdPanel(this);
   window->addWidget(ui::label(this, "lPreview", "Preview"), 0, 1, 1, 2,
@@ -200,19 +141,6 @@ void fCustomCharacter::layOut() {
   window->addWidget(layOutResults(), 4, 1, 1, 2);
   window->setRowStretch(0, 1);
   ui::fixToContent(this);
-}
-
-void fCustomCharacter::connectSettings() {
-  for (const Wire& wire : {data, registerSelect, enable, readWrite}) {
-    const auto change = [this, wire] { Port_Change(wire); };
-    connect(wire.port, &ui::EditableList::edited, this, change);
-    connect(wire.port, &ui::EditableList::chosen, this, change);
-    connect(wire.port, &ui::EditableList::focusLost, this, change);
-  }
-  for (ui::EditableList* bit : {data.bit, registerSelect.bit, enable.bit})
-    connect(bit, &ui::EditableList::focusLost, this, [this, bit] { Bit_LostFocus(*bit); });
-  connect(tCommandUS, &ui::EntryField::entered, this, [this] { tDataUS->setFocus(); });
-  connect(tDataUS, &ui::EntryField::entered, this, [this] { tCommandUS->setFocus(); });
 }
 
 void fCustomCharacter::connectEditor() {
@@ -234,38 +162,17 @@ void fCustomCharacter::connectEditor() {
 }
 
 void fCustomCharacter::Form_Load() {
-  LoadSettings();
-  edit(calc::OpenEditor(std::move(characters_)));
+  settings_.load();
+  calc::OpenEditor(characters_);
+  showCharacters();
   uTleft->setText(ui::toQt(characters_.shown.leadText));
   uTright->setText(ui::toQt(characters_.shown.followText));
 }
 
-void fCustomCharacter::LoadSettings() {
-  data.port->choose(portB);
-  data.bit->choose(first);
-  registerSelect.port->choose(portB);
-  registerSelect.bit->choose(4);
-  enable.port->choose(portB);
-  enable.bit->choose(5);
-  readWrite.port->setCurrentIndex(-1);
-  readWrite.bit->choose(first);
-  Bits->choose(first);
-  Lines->choose(first);
-  tCommandUS->setContents("2000");
-  tDataUS->setContents("50");
-}
-
-void fCustomCharacter::Port_Change(const Wire& wire) {
-  wire.bit->setEnabled(!wire.port->contents().empty());
-}
-
-void fCustomCharacter::Bit_LostFocus(ui::EditableList& bit) {
-  if (bit.contents().empty()) bit.choose(first);
-}
-
 void fCustomCharacter::oChar_Click(int slot) {
   if (slot == characters_.kept.SelectedSlot) return;
-  edit(calc::SelectSlot(std::move(characters_), static_cast<std::size_t>(slot)));
+  calc::SelectSlot(characters_, static_cast<std::size_t>(slot));
+  showCharacters();
 }
 
 void fCustomCharacter::tName_Change(std::size_t slot) {
@@ -278,41 +185,42 @@ void fCustomCharacter::tConstant_Change(std::size_t slot) {
 }
 
 void fCustomCharacter::uTleft_Change() {
-  edit(calc::SetLeadText(std::move(characters_), ui::fromQt(uTleft->text())));
+  calc::SetLeadText(characters_, ui::fromQt(uTleft->text()));
+  showCharacters();
 }
 
 void fCustomCharacter::uTright_Change() {
-  edit(calc::SetFollowText(std::move(characters_), ui::fromQt(uTright->text())));
+  calc::SetFollowText(characters_, ui::fromQt(uTright->text()));
+  showCharacters();
 }
 
 void fCustomCharacter::chk_Click(int pixel) {
-  edit(calc::TogglePixel(std::move(characters_), static_cast<std::size_t>(pixel)));
+  calc::TogglePixel(characters_, static_cast<std::size_t>(pixel));
+  showCharacters();
 }
 
 void fCustomCharacter::cInvertAll_Click() {
-  edit(calc::InvertAll(std::move(characters_)));
+  calc::InvertAll(characters_);
+  showCharacters();
 }
 
 void fCustomCharacter::cClear_Click() {
-  edit(calc::Clear(std::move(characters_)));
+  calc::Clear(characters_);
+  showCharacters();
 }
 
 void fCustomCharacter::cDeleteChar_Click() {
-  edit(calc::DeleteSelectedCharacter(std::move(characters_)));
+  calc::DeleteSelectedCharacter(characters_);
+  showCharacters();
 }
 
 void fCustomCharacter::cDeletedAll_Click() {
-  edit(calc::DeleteAll(std::move(characters_)));
+  calc::DeleteAll(characters_);
+  showCharacters();
 }
 
 void fCustomCharacter::cCopyClip_Click() {
-  ui::copyToClipboard(
-      calc::BuildLcdText(settings(), cInclude->isChecked(), calc::lcdCharacters(characters_)));
-}
-
-void fCustomCharacter::edit(calc::CharacterSet characters) {
-  characters_ = std::move(characters);
-  showCharacters();
+  ui::copyToClipboard(calc::BuildLcdText(settings_.contents(), cInclude->isChecked(), characters_));
 }
 
 void fCustomCharacter::showCharacters() {
@@ -336,21 +244,6 @@ void fCustomCharacter::showCharacters() {
   }
   Image2->setPixels(kept.Pixels);
   Image2->setTexts(shown.leadText, shown.followText);
-}
-
-calc::LcdSettings fCustomCharacter::settings() const {
-  return {.dataPort = data.port->contents(),
-          .dataBit = data.bit->contents(),
-          .registerPort = registerSelect.port->contents(),
-          .registerBit = registerSelect.bit->contents(),
-          .enablePort = enable.port->contents(),
-          .enableBit = enable.bit->contents(),
-          .readWritePort = readWrite.port->contents(),
-          .readWriteBit = readWrite.bit->contents(),
-          .busWidth = Bits->contents(),
-          .lines = Lines->contents(),
-          .commandDelayUs = tCommandUS->contents(),
-          .dataDelayUs = tDataUS->contents()};
 }
 
 }  // namespace tarnwick::forms

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "calc/character_set.h"
-#include "calc/lcd_text.h"
-#include "ui/entry_field.h"
+#include "forms/lcd_settings_group.h"
 #include "ui/lcd_panel.h"
 #include "ui/pixels.h"
 #include "ui/widgets.h"
@@ -19,11 +18,6 @@ public:
   explicit fCustomCharacter(calc::CharacterSet& characters);
 
 private:
-  // The port and the bit that a line of the LCD is wired to.
-  struct Wire {
-    ui::EditableList* port;
-    ui::EditableList* bit;
-  };
   struct SlotRow {
     ui::PixelPicture* picture;
     ui::ResultField* tChar;
@@ -31,20 +25,15 @@ private:
     QLineEdit* tConstant;
   };
 
-  QWidget* layOutSettings();
   QWidget* layOutSlots();
   QWidget* layOutLcdText();
   QWidget* layOutPixels();
   QWidget* layOutGridButtons();
   QWidget* layOutResults();
   void layOut();
-  void connectSettings();
   void connectEditor();
   void Form_Load();
-  void LoadSettings();
 
-  void Port_Change(const Wire& wire);
-  void Bit_LostFocus(ui::EditableList& bit);
   void oChar_Click(int slot);
   void tName_Change(std::size_t slot);
   void tConstant_Change(std::size_t slot);
@@ -57,19 +46,9 @@ private:
   void cDeletedAll_Click();
   void cCopyClip_Click();
 
-  // Takes over what an operation made of the character set, and shows it.
-  void edit(calc::CharacterSet characters);
   void showCharacters();
-  [[nodiscard]] calc::LcdSettings settings() const;
 
-  Wire data;
-  Wire registerSelect;
-  Wire enable;
-  Wire readWrite;
-  ui::EditableList* Bits;
-  ui::EditableList* Lines;
-  ui::EntryField* tCommandUS;
-  ui::EntryField* tDataUS;
+  LcdSettingsGroup settings_;
   ui::OptionGroup* oChar;
   std::array<SlotRow, calc::slotCount> slotRows;
   ui::LcdPanel* Image2;

@@ -1,11 +1,13 @@
 #include "forms/fEUSART.h"
 
+#include "calc/serial_text.h"
 #include "ui/desktop.h"
 #include "ui/layout.h"
 
 #include <QHBoxLayout>
 
 #include <cstddef>
+#include <utility>
 
 namespace tarnwick::forms {
 namespace {
@@ -53,13 +55,13 @@ void fEUSART::layOut() {
 
   rows_ = {table.brgh0, table.brgh1, table16.brgh0, table16.brgh1};
 
-  auto* fFinal =
-      matchGroup(this, "fFinal", "Final best match",
-                 {{&tfERR, "tfERR", "Error % :"}, {&tfCalcBaud, "tfCalcBaud", "Calc baud :"}},
-                 {{&tfSPBRG, "tfSPBRG", "SPBRG :"},
-                  {&TSPBRGH, "TSPBRGH", "SPBRGH :"},
-                  {&tfBRGH, "tfBRGH", "BRGH :"},
-                  {&tfBRG16, "tfBRG16", "BRG16 :"}});
+  auto* fFinal = matchGroup(
+      this, "fFinal", "Final best match",
+      {{&final_.err, "tfERR", "Error % :"}, {&final_.calcBaud, "tfCalcBaud", "Calc baud :"}},
+      {{&final_.spbrg, "tfSPBRG", "SPBRG :"},
+       {&final_.spbrgh, "TSPBRGH", "SPBRGH :"},
+       {&tfBRGH, "tfBRGH", "BRGH :"},
+       {&tfBRG16, "tfBRG16", "BRG16 :"}});
   cCopyRegister = ui::button(this, "cCopyRegister", "Copy register settings to clipboard");
   CopyClip = ui::button(this, "CopyClip", "Copy PBP DEFINEs to clipboard");
 
@@ -88,107 +90,44 @@ void fEUSART::connectEvents() {
 }
 
 void fEUSART::Form_Load() {
-  enableCopying(false);
+  show({});
   inputs_.load();
 }
 
 void fEUSART::CalcEUSART() {
   inputs_.clearPointFlags();
-  const auto rows = calc::eusartRows(inputs_.fOSC->number(), inputs_.rate.baud());
-  if (rows)
-    showRows(*rows);
-  else
-    showFault();
+  show(calc::next(shown_, {.baud = inputs_.inputs(), .location = dropBRG16->contents()}));
 }
 
-// The best matches and the state of the BRG16 location stay as they were.
-void fEUSART::showFault() {
-  enableCopying(false);
-  for (const RateFields& row : rows_) row.show(std::nullopt, false);
-}
-
-void fEUSART::showRows(const calc::EusartRows& rows) {
-  const bool kBaud = inputs_.rate.cKBaud->isChecked();
-  for (std::size_t i = 0; i < rows.size(); ++i) rows_[i].show(rows[i], kBaud);
-
-  const auto best = calc::eusartBest(rows);
-  if (!best) {
-    showNoMatch();
-    return;
-  }
-  dropBRG16->setEnabled(true);
-  showMatch(rows, best->BestBRGH);
-  showMatch16(rows, best->BestBRGH16);
-  showFinalMatch(best->FinalBRG16);
-  if (!dropBRG16->contents().empty()) enableCopying(true);
-}
-
-// The final SPBRGH and the best match of each group keep what they showed, deliberately.
-void fEUSART::showNoMatch() {
-  enableCopying(false);
-  dropBRG16->setEnabled(false);
-  for (ui::ResultField* field : {tfERR, tfCalcBaud, tfSPBRG, tfBRGH, tfBRG16})
-    field->setContents("");
-}
-
-void fEUSART::showMatch(const calc::EusartRows& rows, std::optional<bool> brgh) {
-  if (!brgh) {
-    best_.show(std::nullopt, false);
-    trSPBRGH->setContents("");
-    return;
-  }
-  best_.show(rows[*brgh ? 1 : 0], inputs_.rate.cKBaud->isChecked());
-  trSPBRGH->setContents(*brgh ? "1" : "0");
-}
-
-// Unless both rows are usable, the fields that are blanked beside this group's error are those of
-// the other group, deliberately.
-void fEUSART::showMatch16(const calc::EusartRows& rows, std::optional<bool> brgh) {
-  if (!rows[2] || !rows[3]) {
-    for (ui::ResultField* field : {best16_.err, best_.calcBaud, best_.spbrg, trSPBRGH})
-      field->setContents("");
-  }
-  if (!brgh) return;
-  best16_.show(rows[*brgh ? 3 : 2], inputs_.rate.cKBaud->isChecked());
-  trSPBRGH16->setContents(*brgh ? "1" : "0");
-}
-
-void fEUSART::showFinalMatch(bool brg16) {
-  const RateFields& best = brg16 ? best16_ : best_;
-  tfERR->setContents(best.err->contents());
-  tfCalcBaud->setContents(best.calcBaud->contents());
-  tfSPBRG->setContents(best.spbrg->contents());
-  TSPBRGH->setContents(brg16 ? best.spbrgh->contents() : "");
-  tfBRGH->setContents((brg16 ? trSPBRGH16 : trSPBRGH)->contents());
-  tfBRG16->setContents(brg16 ? "1" : "0");
-}
-
-void fEUSART::enableCopying(bool enabled) {
-  CopyClip->setEnabled(enabled);
-  cCopyRegister->setEnabled(enabled);
+void fEUSART::show(calc::EusartShown shown) {
+  shown_ = std::move(shown);
+  for (std::size_t i = 0; i < rows_.size(); ++i) rows_[i].show(shown_.rows[i]);
+  best_.show(shown_.best.texts);
+  trSPBRGH->setContents(shown_.best.brghText);
+  best16_.show(shown_.best16.texts);
+  trSPBRGH16->setContents(shown_.best16.brghText);
+  final_.show(shown_.finalMatch.texts);
+  tfBRGH->setContents(shown_.finalMatch.brghText);
+  tfBRG16->setContents(shown_.brg16Text);
+  CopyClip->setEnabled(shown_.canCopy);
+  cCopyRegister->setEnabled(shown_.canCopy);
+  dropBRG16->setEnabled(shown_.canLocate);
 }
 
 void fEUSART::dropBRG16_Click() {
-  if (!dropBRG16->contents().empty()) enableCopying(true);
-}
-
-calc::EusartSetup fEUSART::setup() const {
-  return {.goal = inputs_.goal(),
-          .brg16 = tfBRG16->contents(),
-          .brgh = tfBRGH->contents(),
-          .spbrg = tfSPBRG->contents(),
-          .spbrgh = TSPBRGH->contents(),
-          .err = tfERR->contents(),
-          .location = dropBRG16->contents()};
+  show(calc::locationChosen(shown_, dropBRG16->contents()));
 }
 
 void fEUSART::cCopyRegister_Click() {
-  ClipText = calc::EusartRegisterText(setup());
-  ui::copyToClipboard(ClipText);
+  copy(calc::EusartRegisterText(inputs_.goal(), shown_, dropBRG16->contents()));
 }
 
 void fEUSART::CopyClip_Click() {
-  ClipText = calc::EusartDefineText(setup());
+  copy(calc::EusartDefineText(inputs_.goal(), shown_, dropBRG16->contents()));
+}
+
+void fEUSART::copy(std::string text) {
+  ClipText = std::move(text);
   ui::copyToClipboard(ClipText);
 }
 

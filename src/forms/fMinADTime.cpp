@@ -1,11 +1,8 @@
 #include "forms/fMinADTime.h"
 
-#include "common/number_text.h"
 #include "forms/oscillator_field.h"
 #include "ui/desktop.h"
 #include "ui/layout.h"
-
-#include <cmath>
 
 namespace tarnwick::forms {
 namespace {
@@ -31,7 +28,6 @@ void fMinADTime::layOut() {
                              .pointTyped = &OscPointTyped,
                              .clearsPointOnEntering = true,
                              .validatesOnFocusLost = true});
-  ui::nameAfter(tOSC, "OSC(MHz)");
   ui::row(fOSC, {tOSC});
 
   auto* fImpedance = ui::group(this, "fImpedance", "Source impedance");
@@ -40,13 +36,12 @@ void fMinADTime::layOut() {
                                    .pointTyped = &ImpedancePointTyped,
                                    .clearsPointOnEntering = true,
                                    .validatesOnFocusLost = true});
-  ui::nameAfter(tImpedance, "Source impedance");
   cKohm = ui::checkBox(fImpedance, "cKohm", "K Ohm");
   ui::row(fImpedance, {tImpedance, cKohm});
 
   auto* fADCBits = ui::group(this, "fADCBits", "ADC resolution");
-  oADCBits = new ui::OptionGroup(fADCBits, "oADCBits", {{bits10, "10 Bits"}, {bits8, "8 Bits"}});
-  ui::row(fADCBits, {oADCBits->button(bits10), oADCBits->button(bits8)});
+  oADCBits = new ui::OptionGroup(fADCBits, "oADCBits");
+  ui::row(fADCBits, {oADCBits->add(bits10, "10 Bits"), oADCBits->add(bits8, "8 Bits")});
 
   auto* fResults = ui::group(this, "fResults", "Results");
   auto* results = ui::grid(fResults);
@@ -86,13 +81,11 @@ void fMinADTime::Form_Load() {
 }
 
 void fMinADTime::CalcADC() {
-  const double Rs = cKohm->isChecked() ? tImpedance->number() * 1000 : tImpedance->number();
-  const double Fosc = tOSC->number();
-  Taq = calc::AcquisitionTime(Rs);
-  Clock = calc::ClockChoice(Fosc);
-  tMinTaq->setContents(std::isfinite(Taq) ? common::numberText(Taq) + " uSec" : "");
-  tADClock->setContents(calc::adcClockText(Clock));
-  tMinTad->setContents(common::wholeText(calc::AcquisitionTad(Taq, Fosc, Clock.divisor)) + " Tad");
+  shown_ = calc::showAdc(
+      {.foscMHz = tOSC->number(), .impedance = tImpedance->number(), .kOhm = cKohm->isChecked()});
+  tADClock->setContents(shown_.clock);
+  tMinTad->setContents(shown_.acquisitionTad);
+  tMinTaq->setContents(shown_.acquisitionTime);
 }
 
 void fMinADTime::tOSC_Validate() {
@@ -114,7 +107,7 @@ void fMinADTime::cKohm_Click() {
 
 void fMinADTime::cCopyClip_Click() {
   const auto resolution = static_cast<AdcResolution>(oADCBits->selected());
-  ui::copyToClipboard(calc::AdcDefineText(Taq, Clock, resolution));
+  ui::copyToClipboard(calc::AdcDefineText(shown_.Taq, shown_.Clock, resolution));
 }
 
 }  // namespace tarnwick::forms

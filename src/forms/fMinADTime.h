@@ -36,8 +36,7 @@ private:
   QPushButton* cCopyClip;
 
   common::OscillatorSetting& oscillator_;
-  double Taq = 0;        // us, of the last calculation
-  calc::AdcClock Clock;  // of the last calculation
+  calc::AdcShown shown_;
   bool OscPointTyped = false;
   bool ImpedancePointTyped = false;
 };

@@ -5,6 +5,8 @@
 #include "forms/oscillator_field.h"
 #include "ui/layout.h"
 
+#include <utility>
+
 namespace tarnwick::forms {
 namespace {
 
@@ -26,13 +28,11 @@ void fPWM::layOut() {
   tOSC = new ui::EntryField(Frame1, "tOSC",
                             {.keys = common::decimalKey, .pointTyped = &OscPointTyped});
   tOSC->setContents("4");
-  ui::nameAfter(tOSC, "OSC (MHz)");
   ui::row(Frame1, {tOSC});
 
   auto* Frame2 = ui::group(this, "Frame2", "Duty cycle (%)");
   tDuty = new ui::EntryField(Frame2, "tDuty", {.validatesOnFocusLost = true});
   scrollduty = new ui::Slider(Frame2, "scrollduty", 0, 100);
-  ui::nameAfter(tDuty, "Duty cycle (%)");
   ui::nameAfter(scrollduty, "Duty cycle slider");
   auto* duty = ui::grid(Frame2);
   duty->addWidget(tDuty, 0, 0, Qt::AlignHCenter);
@@ -50,12 +50,11 @@ void fPWM::layOut() {
   tFreq = new ui::EntryField(Frame3, "tFreq",
                              {.keys = common::decimalKey, .pointTyped = &FreqPointTyped});
   tFreq->setContents("1");
-  ui::nameAfter(tFreq, "Frequency");
-  oHzKhz = new ui::OptionGroup(Frame3, "oHzKhz", {{inHz, "Hz"}, {inKHz, "KHz"}});
-  oHzKhz->select(inKHz);
+  oHzKhz = new ui::OptionGroup(Frame3, "oHzKhz");
   frequency->addWidget(tFreq, 0, 1);
-  frequency->addWidget(oHzKhz->button(inHz), 0, 2);
-  frequency->addWidget(oHzKhz->button(inKHz), 0, 3);
+  frequency->addWidget(oHzKhz->add(inHz, "Hz"), 0, 2);
+  frequency->addWidget(oHzKhz->add(inKHz, "KHz"), 0, 3);
+  oHzKhz->select(inKHz);
 
   auto* Frame4 = ui::group(this, "Frame4", "Possible match");
   auto* matches = ui::grid(Frame4);
@@ -98,41 +97,43 @@ void fPWM::Form_Load() {
   tFreq->setFocus();  // where leaving the oscillator leads to as well
 }
 
+calc::PwmInputs fPWM::inputs() const {
+  return {.foscMHz = tOSC->number(),
+          .frequency = tFreq->number(),
+          .kHz = oHzKhz->selected() == inKHz,
+          .dutyPercent = tDuty->number()};
+}
+
 void fPWM::CalcPWM() {
   rewriteResults();
-  if (matches_.MatchCount == 0) tFreq->setFocus();
+  if (shown_.matches.MatchCount == 0) tFreq->setFocus();
 }
 
 void fPWM::rewriteResults() {
   FreqPointTyped = false;
   OscPointTyped = false;
-  const double Fosc = tOSC->number() * 1000000;
-  const bool kHz = oHzKhz->selected() == inKHz;
-  const double F = kHz ? tFreq->number() * 1000 : tFreq->number();
-
-  const calc::PwmLimitTexts limits = calc::pwmLimitTexts(calc::PwmRange(Fosc));
-  tMinFreq->setContents(limits.min);
-  tMaxFreq->setContents(limits.max);
-
-  matches_ = calc::PwmSearch(Fosc, F);
-  const calc::PwmMatchTexts texts = calc::pwmMatchTexts(matches_, kHz);
-  tCalc->setContents(texts.calcFreq);
-  tPrescaler->setContents(texts.prescaler);
-  tResolution->setContents(texts.resolution);
-  trMaxPR2->setContents(texts.maxDutyVal);
-  trDutyStep->setContents(texts.dutyStep);
-  tPrescaler2->setContents(texts.prescaler);
-  tPR2->setContents(texts.PR2);
-
-  enableDuty(matches_.MatchCount > 0);
-  CalcDuty();
+  shown_ = calc::showPwm(inputs());
+  tMinFreq->setContents(shown_.minFreq);
+  tMaxFreq->setContents(shown_.maxFreq);
+  tCalc->setContents(shown_.calcFreq);
+  tPrescaler->setContents(shown_.prescaler);
+  tResolution->setContents(shown_.resolution);
+  trMaxPR2->setContents(shown_.maxDutyVal);
+  trDutyStep->setContents(shown_.dutyStep);
+  tPrescaler2->setContents(shown_.prescaler);
+  tPR2->setContents(shown_.PR2);
+  showDuty();
+  enableDuty(shown_.matches.MatchCount > 0);
 }
 
 void fPWM::CalcDuty() {
-  const auto texts = calc::pwmDutyTexts(matches_, tDuty->number(), tOSC->number() * 1000000);
-  if (!texts) return;
-  tDecimal->setContents(texts->dutyRegister);
-  tCalcDuty->setContents(texts->calcDuty);
+  shown_ = calc::next(std::move(shown_), inputs());
+  showDuty();
+}
+
+void fPWM::showDuty() {
+  tDecimal->setContents(shown_.dutyRegister);
+  tCalcDuty->setContents(shown_.calcDuty);
 }
 
 // The focus is taken from a control before it is disabled: the toolkit would pass it on to the
@@ -158,7 +159,7 @@ void fPWM::tFreq_Validate() {
 
 void fPWM::tDuty_Validate() {
   const auto percent = common::toWhole<std::int32_t>(tDuty->number());
-  if (percent > 100) tDuty->setContents("100");
+  if (percent > scrollduty->maximum()) tDuty->setContents(common::wholeText(scrollduty->maximum()));
   if (percent < 0)  // only by pasting; the field then shows where the slider can go
     scrollduty->refreshPosition(0);
   else

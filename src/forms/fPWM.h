@@ -21,8 +21,10 @@ private:
   // Reads the inputs, rewrites all results and goes to the frequency when nothing matches.
   void CalcPWM();
   void rewriteResults();
+  [[nodiscard]] calc::PwmInputs inputs() const;
   // Rewrites the duty columns of the matches found last.
   void CalcDuty();
+  void showDuty();
   void enableDuty(bool on);
 
   void tOSC_Validate();
@@ -48,7 +50,7 @@ private:
   ui::ResultColumn* tCalcDuty;
 
   common::OscillatorSetting& oscillator_;
-  calc::PwmMatches matches_;
+  calc::PwmShown shown_;
   bool FreqPointTyped = false;
   bool OscPointTyped = false;
 };

@@ -1,12 +1,11 @@
 #include "forms/fSerinSerout2.h"
 
-#include "calc/ser2_mode.h"
-#include "common/number_text.h"
 #include "ui/desktop.h"
 #include "ui/layout.h"
 #include "ui/twips.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tarnwick::forms {
 namespace {
@@ -15,9 +14,9 @@ constexpr int driven = 1;  // oOutput
 constexpr int open = 2;
 constexpr int trueLevels = 1;  // oConversion
 constexpr int inverted = 2;
-constexpr int odd = 0;  // oParity
-constexpr int none = 1;
-constexpr int even = 2;
+constexpr int odd = static_cast<int>(calc::Ser2Parity::Odd);  // oParity
+constexpr int none = static_cast<int>(calc::Ser2Parity::None);
+constexpr int even = static_cast<int>(calc::Ser2Parity::Even);
 
 // Horizontal places, in pixels from the left edge of the window.
 constexpr int groupsLeft = ui::fromTwips(120);
@@ -34,7 +33,7 @@ fSerinSerout2::fSerinSerout2()
                .pointTyped = &BaudPointTyped,
                .clearsPointOnEntering = true,
                .validatesOnFocusLost = true},
-              BaudInputs::Choice::UnitFirst, [this] { CalcMode(); }),
+              BaudControls::Choice::UnitFirst, [this] { CalcMode(); }),
       tBaud(inputs_.field) {
   layOut();
   connectEvents();
@@ -43,17 +42,18 @@ fSerinSerout2::fSerinSerout2()
 
 void fSerinSerout2::layOut() {
   auto* fOutput = ui::group(this, "fOutput", "Output");
-  oOutput = new ui::OptionGroup(fOutput, "oOutput", {{driven, "Driven"}, {open, "Open"}});
-  ui::row(fOutput, {oOutput->button(driven), oOutput->button(open)});
+  oOutput = new ui::OptionGroup(fOutput, "oOutput");
+  ui::row(fOutput, {oOutput->add(driven, "Driven"), oOutput->add(open, "Open")});
 
   auto* fConversion = ui::group(this, "fConversion", "Conversion");
-  oConversion = new ui::OptionGroup(fConversion, "oConversion",
-                                    {{trueLevels, "True"}, {inverted, "Inverted"}});
-  ui::row(fConversion, {oConversion->button(trueLevels), oConversion->button(inverted)});
+  oConversion = new ui::OptionGroup(fConversion, "oConversion");
+  ui::row(fConversion,
+          {oConversion->add(trueLevels, "True"), oConversion->add(inverted, "Inverted")});
 
   auto* fParity = ui::group(this, "fParity", "Parity");
-  oParity = new ui::OptionGroup(fParity, "oParity", {{none, "None"}, {even, "Even"}, {odd, "Odd"}});
-  ui::row(fParity, {oParity->button(none), oParity->button(even), oParity->button(odd)});
+  oParity = new ui::OptionGroup(fParity, "oParity");
+  ui::row(fParity,
+          {oParity->add(none, "None"), oParity->add(even, "Even"), oParity->add(odd, "Odd")});
 
   layOutResults();
 
@@ -102,27 +102,28 @@ void fSerinSerout2::Form_Load() {
   oOutput->select(driven);
   oConversion->select(trueLevels);
   oParity->select(none);
-  showOddParity(false);
+  show({});
   inputs_.chooseDefault();
   CalcMode();
 }
 
-void fSerinSerout2::CalcMode() {
-  const auto mode =
-      calc::Ser2Mode(inputs_.baud(), {.open = oOutput->selected() != driven,
-                                      .inverted = oConversion->selected() != trueLevels,
-                                      .parity = oParity->selected() != none});
-  if (!mode) {
-    tMode->setContents("");
-    return;
-  }
-  showOddParity(oParity->selected() == odd);
-  tMode->setContents(common::numberText(*mode));
+calc::Ser2Inputs fSerinSerout2::inputs() const {
+  return {.rate = tBaud->number(),
+          .kBaud = inputs_.cKBaud->isChecked(),
+          .open = oOutput->selected() != driven,
+          .inverted = oConversion->selected() != trueLevels,
+          .parity = static_cast<calc::Ser2Parity>(oParity->selected())};
 }
 
-void fSerinSerout2::showOddParity(bool isOdd) {
-  placeMode(isOdd ? labelBesideButton : labelAlone);
-  cCopyClip->setVisible(isOdd);
+void fSerinSerout2::CalcMode() {
+  show(calc::next(shown_, inputs()));
+}
+
+void fSerinSerout2::show(calc::Ser2Shown shown) {
+  shown_ = std::move(shown);
+  tMode->setContents(shown_.mode);
+  placeMode(shown_.offersOdd ? labelBesideButton : labelAlone);
+  cCopyClip->setVisible(shown_.offersOdd);
 }
 
 // A label in a large font pushes its field to the right.

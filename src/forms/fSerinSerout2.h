@@ -1,6 +1,7 @@
 #pragma once
 
-#include "forms/baud_inputs.h"
+#include "calc/ser2_mode.h"
+#include "forms/baud_controls.h"
 #include "ui/window.h"
 
 namespace tarnwick::forms {
@@ -16,13 +17,14 @@ private:
   void connectEvents();
   void Form_Load();
   void CalcMode();
-  void showOddParity(bool odd);
+  [[nodiscard]] calc::Ser2Inputs inputs() const;
+  void show(calc::Ser2Shown shown);
   void placeMode(int labelLeft);
 
   void tBaud_Validate();
   void cCopyClip_Click();
 
-  BaudInputs inputs_;
+  BaudControls inputs_;
   ui::EntryField* tBaud;
   ui::OptionGroup* oOutput;
   ui::OptionGroup* oConversion;
@@ -32,6 +34,7 @@ private:
   ui::ResultField* tMode;
   QPushButton* cCopyClip;
 
+  calc::Ser2Shown shown_;
   bool BaudPointTyped = false;
 };
 

@@ -6,16 +6,13 @@
 #include "forms/oscillator_field.h"
 #include "ui/layout.h"
 
-#include <cmath>
+#include <cstddef>
 
 namespace tarnwick::forms {
 namespace {
 
 constexpr int bits8 = 1;  // oType indices
 constexpr int bits16 = 2;
-constexpr int halfOf16Bits = 32768;  // the 16-bit preload slider stands at the preload less this
-constexpr std::string_view timePattern = "###0.0###";
-constexpr std::string_view frequencyPattern = "####.0##";
 
 }  // namespace
 
@@ -33,39 +30,30 @@ void fTimer::layOut() {
                              .pointTyped = &OscPointTyped,
                              .clearsPointOnEntering = true,
                              .maxLength = 8});
-  ui::nameAfter(tOSC, "OSC(MHz)");
   ui::row(fOSC, {tOSC});
 
   auto* fType = ui::group(this, "fType", "Type");
-  oType = new ui::OptionGroup(fType, "oType", {{bits8, "8 Bits"}, {bits16, "16 Bits"}});
-  ui::row(fType, {oType->button(bits8), oType->button(bits16)});
+  oType = new ui::OptionGroup(fType, "oType");
+  ui::row(fType, {oType->add(bits8, "8 Bits"), oType->add(bits16, "16 Bits")});
 
   auto* fPreScaller = ui::group(this, "fPreScaller", "Prescaler");
-  oPrescaller = new ui::OptionGroup(fPreScaller, "oPrescaller",
-                                    {{0, "1:1"},
-                                     {1, "1:2"},
-                                     {2, "1:4"},
-                                     {3, "1:8"},
-                                     {4, "1:16"},
-                                     {5, "1:32"},
-                                     {6, "1:64"},
-                                     {7, "1:128"},
-                                     {8, "1:256"}});
+  oPrescaller = new ui::OptionGroup(fPreScaller, "oPrescaller");
   auto* prescalers = ui::grid(fPreScaller);
-  for (int i = 0; i < 9; ++i) prescalers->addWidget(oPrescaller->button(i), i / 3, i % 3);
+  for (int i = 0; const int ratio : calc::timerPrescalers) {
+    prescalers->addWidget(oPrescaller->add(i, "1:" + common::wholeText(ratio)), i / 3, i % 3);
+    ++i;
+  }
 
   auto* fPreLoad = ui::group(this, "fPreLoad", "Pre-Load (decimal)");
   tPreLoad = new ui::EntryField(fPreLoad, "tPreLoad",
                                 {.validatesOnFocusLost = true, .maxLength = 5, .widest = "000000"});
   scrollpreload = new ui::Slider(fPreLoad, "scrollpreload", 0, 255);
-  ui::nameAfter(tPreLoad, "Pre-Load (decimal)");
   ui::nameAfter(scrollpreload, "Pre-Load slider");
   ui::row(fPreLoad, {tPreLoad, scrollpreload});
 
   auto* Frame1 = ui::group(this, "Frame1", "Re-load (instr cycle)");
   tReload = new ui::EntryField(Frame1, "tReload", {.widest = "000000"});
   scrollreload = new ui::Slider(Frame1, "scrollreload", 1, 15);
-  ui::nameAfter(tReload, "Re-load (instr cycle)");
   ui::nameAfter(scrollreload, "Re-load slider");
   ui::row(Frame1, {tReload, scrollreload});
 
@@ -75,7 +63,7 @@ void fTimer::layOut() {
   tTicks = new ui::ResultField(fResults, "tTicks", "0000000.0000 uSec");
   tResults = new ui::ResultField(fResults, "tResults", "0000000.0000 mSec");
   tFreq = new ui::ResultField(fResults, "tFreq", "0000000.000 KHz");
-  ui::labelledRow(results, "Text3(0)", "Fosc :", tFosc);
+  ui::labelledRow(results, "Text3(0)", "Fosc :", tFosc);  // shows Fosc / 4; the label is contract
   ui::labelledRow(results, "Text3(1)", "Ticks :", tTicks);
   ui::labelledRow(results, "Text3(2)", "Interrupt each :", tResults);
   ui::labelledRow(results, "Text3(3)", "Frequency :", tFreq);
@@ -113,20 +101,15 @@ void fTimer::Form_Load() {
 }
 
 void fTimer::DoCalc() {
-  const calc::TimerResult result = calc::timerResult({.foscMHz = tOSC->number(),
-                                                      .is8Bit = Is8Bit,
-                                                      .prescale = Prescale,
-                                                      .preload = tPreLoad->number(),
-                                                      .reloadCycles = tReload->number()});
-  using common::formatWithUnit;
-  tFosc->setContents(formatWithUnit(result.Fcy, timePattern, " MHz"));
-  tTicks->setContents(formatWithUnit(result.Tcy, timePattern, " uSec"));
-  tFreq->setContents(result.FreqKHz <= 1
-                         ? formatWithUnit(result.FreqKHz * 1000, frequencyPattern, " Hz")
-                         : formatWithUnit(result.FreqKHz, frequencyPattern, " KHz"));
-  tResults->setContents(result.Period < 1000
-                            ? formatWithUnit(result.Period, timePattern, " uSec")
-                            : formatWithUnit(result.Period / 1000, timePattern, " mSec"));
+  const calc::TimerShown shown = calc::showTimer({.foscMHz = tOSC->number(),
+                                                  .is8Bit = Is8Bit,
+                                                  .prescale = Prescale,
+                                                  .preload = tPreLoad->number(),
+                                                  .reloadCycles = tReload->number()});
+  tFosc->setContents(shown.instructionClock);
+  tTicks->setContents(shown.instructionCycle);
+  tResults->setContents(shown.period);
+  tFreq->setContents(shown.frequency);
 }
 
 void fTimer::tOSC_Validate() {
@@ -134,43 +117,30 @@ void fTimer::tOSC_Validate() {
 }
 
 void fTimer::oType_Click(int index) {
-  if (index == bits8) {
-    Is8Bit = true;
-    scrollpreload->setRangeAndPosition(0, 255, 0);
-  } else {
-    oPrescaller->select(0);
-    Is8Bit = false;
-    scrollpreload->setRangeAndPosition(-halfOf16Bits, halfOf16Bits - 1, -halfOf16Bits);
-  }
+  if (index == bits16) oPrescaller->select(0);
+  Is8Bit = index == bits8;
+  const calc::PreloadSlider slider = calc::preloadSlider(Is8Bit);
+  scrollpreload->setRangeAndPosition(slider.minimum, slider.maximum, slider.minimum);
   DoCalc();
 }
 
 void fTimer::oPrescaller_Click(int index) {
-  Prescale = common::toWhole<std::int32_t>(std::pow(2, index));
+  Prescale = calc::timerPrescalers.at(static_cast<std::size_t>(index));
   DoCalc();
 }
 
+// The slider keeps the preload in its range and writes it back, as that of the reload does.
 void fTimer::tPreLoad_Validate() {
-  const std::int32_t most = Is8Bit ? 255 : 65535;
-  if (tPreLoad->number() > most) tPreLoad->setContents(common::wholeText(most));
-  const double position = tPreLoad->number() - preloadAtZero();
-  scrollpreload->refreshPosition(common::toWhole<std::int32_t>(position));
-  DoCalc();
+  scrollpreload->refreshPosition(calc::preloadPosition(tPreLoad->number(), Is8Bit));
 }
 
 void fTimer::scrollpreload_Change() {
-  tPreLoad->setContents(common::numberText(scrollpreload->value() + preloadAtZero()));
+  tPreLoad->setContents(calc::preloadText(scrollpreload->value(), Is8Bit));
   DoCalc();
 }
 
-int fTimer::preloadAtZero() const {
-  return Is8Bit ? 0 : halfOf16Bits;
-}
-
-// The slider keeps the reload in its range and writes it back.
 void fTimer::tReload_Validate() {
   scrollreload->refreshPosition(common::toWhole<std::int32_t>(tReload->number()));
-  DoCalc();
 }
 
 void fTimer::scrollreload_Change() {

@@ -30,9 +30,6 @@ private:
   void tReload_Validate();
   void scrollreload_Change();
 
-  // The preload for which position 0 of its slider stands.
-  [[nodiscard]] int preloadAtZero() const;
-
   ui::EntryField* tOSC;
   ui::OptionGroup* oType;
   ui::OptionGroup* oPrescaller;

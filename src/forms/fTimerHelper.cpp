@@ -15,8 +15,6 @@
 namespace tarnwick::forms {
 namespace {
 
-constexpr int counts8 = 256;
-constexpr int counts16 = 65536;
 constexpr int lines = static_cast<int>(calc::timerPrescalers.size());
 constexpr std::string_view widestPreload = "65535";
 constexpr std::string_view widestCalc = "0000000000.000 uSec";
@@ -71,7 +69,6 @@ void fTimerHelper::layOut() {
   tOSC = new ui::EntryField(
       frameOsc, "tOSC",
       {.keys = common::decimalKey, .pointTyped = &OscPointTyped, .clearsPointOnEntering = true});
-  ui::nameAfter(tOSC, "OSC(MHz)");
   ui::row(frameOsc, {tOSC});
 
   auto* FrameDelay = ui::group(this, "FrameDelay", "Interrupt/Frequency");
@@ -80,17 +77,14 @@ void fTimerHelper::layOut() {
                                .pointTyped = &DelayPointTyped,
                                .clearsPointOnEntering = true,
                                .widest = "0000.00000000000"});
-  omSecuSec = new ui::OptionGroup(FrameDelay, "omSecuSec",
-                                  {{0, "uSec"}, {1, "mSec"}, {2, "Hz"}, {3, "KHz"}});
+  omSecuSec = new ui::OptionGroup(FrameDelay, "omSecuSec");
+  ui::row(FrameDelay, {tDelay, omSecuSec->add(0, "uSec"), omSecuSec->add(1, "mSec"),
+                       omSecuSec->add(2, "Hz"), omSecuSec->add(3, "KHz")});
   omSecuSec->select(0);
-  ui::nameAfter(tDelay, "Interrupt/Frequency");
-  ui::row(FrameDelay, {tDelay, omSecuSec->button(0), omSecuSec->button(1), omSecuSec->button(2),
-                       omSecuSec->button(3)});
 
   auto* Frame2 = ui::group(this, "Frame2", "Reload (instr. cycle)");
   tReload = new ui::EntryField(Frame2, "tReload", {.widest = "000000"});
   HScroll1 = new ui::Slider(Frame2, "HScroll1", 1, 15);
-  ui::nameAfter(tReload, "Reload (instr. cycle)");
   ui::nameAfter(HScroll1, "Reload slider");
   ui::row(Frame2, {tReload, HScroll1});
 
@@ -138,28 +132,28 @@ void fTimerHelper::Form_Load() {
 }
 
 void fTimerHelper::DoCalc() {
-  const auto unit = static_cast<calc::DelayUnit>(omSecuSec->selected());
-  const calc::Delay delay = calc::shownDelay(tDelay->number(), unit);
-  if (delay.text) tDelay->setContents(*delay.text);
-  selectQuietly(*omSecuSec, delay.unit);
-
-  goal_ = calc::timerGoal(tOSC->number(), tReload->number(), delay);
-  Calculate(counts8);
-  Calculate(counts16);
+  shown_ = calc::showTimerHelper(
+      {.foscMHz = tOSC->number(),
+       .delay = {tDelay->number(), static_cast<calc::DelayUnit>(omSecuSec->selected())},
+       .reloadCycles = tReload->number()});
+  if (shown_.delayText) tDelay->setContents(*shown_.delayText);
+  selectQuietly(*omSecuSec, shown_.unit);
+  Calculate(calc::counts8);
+  Calculate(calc::counts16);
 }
 
 void fTimerHelper::Calculate(int Max) {
-  const calc::TimerMatches matches = calc::searchTimer(Max, goal_);
-  MatchCount = matches.MatchCount;
-  const calc::TimerMatchTexts texts = calc::timerMatchTexts(matches, goal_.unit);
-  const WidthResults& results = Max == counts8 ? results8_ : results16_;
-  results.tPreload->setContents(texts.preload);
-  results.tPrescaler->setContents(texts.prescaler);
-  results.tCalc->setContents(texts.calc);
-  results.tERR->setContents(texts.error);
-  results.tfPreload->setContents(texts.bestPreload);
-  results.tfPrescaler->setContents(texts.bestPrescaler);
-  results.tfERR->setContents(texts.bestError);
+  const bool is8Bit = Max == calc::counts8;
+  const calc::TimerWidthShown& shown = is8Bit ? shown_.width8 : shown_.width16;
+  const WidthResults& results = is8Bit ? results8_ : results16_;
+  MatchCount = shown.MatchCount;
+  results.tPreload->setContents(shown.preload);
+  results.tPrescaler->setContents(shown.prescaler);
+  results.tCalc->setContents(shown.calc);
+  results.tERR->setContents(shown.error);
+  results.tfPreload->setContents(shown.bestPreload);
+  results.tfPrescaler->setContents(shown.bestPrescaler);
+  results.tfERR->setContents(shown.bestError);
 }
 
 void fTimerHelper::tOSC_Validate() {

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "calc/timer_search.h"
+#include "calc/timer_helper.h"
 #include "common/oscillator.h"
 #include "ui/entry_field.h"
 #include "ui/widgets.h"
 
-#include <cstdint>
+#include <cstddef>
 
 namespace tarnwick::forms {
 
@@ -28,8 +28,7 @@ public:
 
   // Reads the inputs, moves the unit where the value asks for it and rewrites all results.
   void DoCalc();
-  // Searches a timer of `Max` counts (256 or 65536) for what was read last and rewrites the results
-  // of its width.
+  // Rewrites the results of the timer of `Max` counts (256 or 65536) for what was read last.
   void Calculate(int Max);
 
 private:
@@ -52,8 +51,8 @@ private:
   WidthResults results16_;
 
   common::OscillatorSetting& oscillator_;
-  calc::TimerGoal goal_;
-  std::uint8_t MatchCount = 0;  // of the last search, which is the 16-bit one
+  calc::TimerHelperShown shown_;
+  std::size_t MatchCount = 0;  // of the last search, which is the 16-bit one
   bool OscPointTyped = false;
   bool DelayPointTyped = false;
 };

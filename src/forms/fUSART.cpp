@@ -1,7 +1,10 @@
 #include "forms/fUSART.h"
 
+#include "calc/serial_text.h"
 #include "ui/desktop.h"
 #include "ui/layout.h"
+
+#include <utility>
 
 namespace tarnwick::forms {
 
@@ -53,31 +56,25 @@ void fUSART::Form_Load() {
 
 void fUSART::CalcUSART() {
   inputs_.clearPointFlags();
-  const bool kBaud = inputs_.rate.cKBaud->isChecked();
-  rows_ = calc::usartRows(inputs_.fOSC->number(), inputs_.rate.baud());
-  row0_.show(rows_[0], kBaud);
-  row1_.show(rows_[1], kBaud);
-
-  const auto best = calc::usartBest(rows_);
-  BestBRGH = best.value_or(false);
-  best_.show(rows_[BestBRGH ? 1 : 0], kBaud);
-  trSPBRGH->setContents(!best ? "" : BestBRGH ? "1" : "0");
-  CopyClip->setEnabled(best.has_value());
-  cCopyRegister->setEnabled(best.has_value());
-}
-
-calc::UsartSetup fUSART::setup() const {
-  const calc::BaudRow best = rows_[BestBRGH ? 1 : 0].value_or(calc::BaudRow{});
-  return {.goal = inputs_.goal(), .BestBRGH = BestBRGH, .Spbrg = best.Spbrg, .Err = best.Err};
+  shown_ = calc::showUsart(inputs_.inputs());
+  row0_.show(shown_.rows[0]);
+  row1_.show(shown_.rows[1]);
+  best_.show(shown_.best);
+  trSPBRGH->setContents(shown_.bestBRGH);
+  CopyClip->setEnabled(shown_.match.has_value());
+  cCopyRegister->setEnabled(shown_.match.has_value());
 }
 
 void fUSART::cCopyRegister_Click() {
-  ClipText = calc::UsartRegisterText(setup());
-  ui::copyToClipboard(ClipText);
+  if (shown_.match) copy(calc::UsartRegisterText(inputs_.goal(), *shown_.match));
 }
 
 void fUSART::CopyClip_Click() {
-  ClipText = calc::UsartDefineText(setup());
+  if (shown_.match) copy(calc::UsartDefineText(inputs_.goal(), *shown_.match));
+}
+
+void fUSART::copy(std::string text) {
+  ClipText = std::move(text);
   ui::copyToClipboard(ClipText);
 }
 

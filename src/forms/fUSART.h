@@ -1,9 +1,8 @@
 #pragma once
 
-#include "calc/baud_rate.h"
-#include "calc/serial_text.h"
+#include "calc/usart.h"
 #include "forms/rate_fields.h"
-#include "forms/serial_inputs.h"
+#include "forms/serial_controls.h"
 #include "ui/window.h"
 
 #include <string>
@@ -24,18 +23,17 @@ private:
 
   void cCopyRegister_Click();
   void CopyClip_Click();
-  [[nodiscard]] calc::UsartSetup setup() const;
+  void copy(std::string text);
 
-  SerialInputs inputs_;
+  SerialControls inputs_;
   RateFields row0_;
   RateFields row1_;
-  RateFields best_;  // trERR, trCalcBaud, trSPBRG
-  ui::ResultField* trSPBRGH;
+  RateFields best_;           // trERR, trCalcBaud, trSPBRG
+  ui::ResultField* trSPBRGH;  // shows BRGH; the name is contract
   QPushButton* cCopyRegister;
   QPushButton* CopyClip;
 
-  calc::UsartRows rows_;  // of the last calculation
-  bool BestBRGH = false;
+  calc::UsartShown shown_;
   std::string ClipText;
 };
 

@@ -1,7 +1,5 @@
 #include "forms/rate_fields.h"
 
-#include "common/number_text.h"
-
 #include <string>
 
 namespace tarnwick::forms {
@@ -10,10 +8,6 @@ namespace {
 constexpr std::string_view widestSpbrg = "00000";
 constexpr std::string_view widestBaud = "0000.000 K";
 constexpr std::string_view widestError = "00000000000000.0%";  // 1E-7 Bd at 64 MHz
-
-std::string rateText(double baud, bool kBaud) {
-  return kBaud ? common::numberText(baud / 1000) + " K" : common::numberText(baud);
-}
 
 // Adds fields and captions to a table column by column.
 class RowBuilder {
@@ -71,21 +65,11 @@ RateFields addRow(const RateTable& table, int row, std::string_view caption, boo
 
 }  // namespace
 
-void RateFields::show(const std::optional<calc::BaudRow>& row, bool kBaud) const {
-  if (!row) {
-    for (ui::ResultField* field : {spbrgh, spbrg, calcBaud, err})
-      if (field != nullptr) field->setContents("");
-    return;
-  }
-  if (spbrgh == nullptr) {
-    spbrg->setContents(common::numberText(row->Spbrg));
-  } else {
-    const calc::SpbrgBytes bytes = calc::spbrgBytes(row->Spbrg);
-    spbrg->setContents(common::wholeText(bytes.low));
-    spbrgh->setContents(common::wholeText(bytes.high));
-  }
-  calcBaud->setContents(rateText(row->Calc, kBaud));
-  err->setContents(common::format(row->Err, "0.0#%"));
+void RateFields::show(const calc::RateTexts& texts) const {
+  if (spbrgh != nullptr) spbrgh->setContents(texts.spbrgh);
+  spbrg->setContents(texts.spbrg);
+  calcBaud->setContents(texts.calcBaud);
+  err->setContents(texts.err);
 }
 
 RateTable rateTable(QWidget* parent, std::string_view name, std::string_view caption,

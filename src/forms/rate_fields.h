@@ -5,7 +5,6 @@
 #include "ui/widgets.h"
 
 #include <initializer_list>
-#include <optional>
 #include <string_view>
 
 // How the windows of the hardware serial ports show settings of the baud rate generator.
@@ -18,8 +17,7 @@ struct RateFields {
   ui::ResultField* calcBaud = nullptr;
   ui::ResultField* err = nullptr;
 
-  // Shows the setting, its rate in Bd or, followed by " K", in kBd; no setting empties the fields.
-  void show(const std::optional<calc::BaudRow>& row, bool kBaud) const;
+  void show(const calc::RateTexts& texts) const;
 };
 
 // The design names of a setting's fields. Those of a byte pair are indexed: SPBRG 0, SPBRGH 1.

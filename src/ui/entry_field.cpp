@@ -50,6 +50,7 @@ EntryField::EntryField(QWidget* parent, std::string_view name, const EntryFieldT
   setInputMethodHints(pointTyped_ != nullptr ? Qt::ImhFormattedNumbersOnly : Qt::ImhDigitsOnly);
   fitWidth(*this, traits.widest);
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  if (const auto* group = qobject_cast<QGroupBox*>(parent)) setAccessibleName(group->title());
 }
 
 double EntryField::number() const {

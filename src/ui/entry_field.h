@@ -27,7 +27,7 @@ struct EntryFieldTraits {
 // A one-line field for a number. Typed characters pass the key filter, whether they come by keys
 // or by an input method; pasted text does not, but stays on one line. Enter validates and then
 // reports `entered`; moving to another control of the window validates and then reports
-// `focusLost`.
+// `focusLost`. Assistive tools call it by the caption of its group, unless it is named otherwise.
 class EntryField : public QLineEdit, public FocusListener {
   Q_OBJECT
 

@@ -1,5 +1,6 @@
 #include "ui/widgets.h"
 
+#include "common/lines.h"
 #include "common/number_text.h"
 #include "ui/text.h"
 
@@ -36,10 +37,6 @@ Control* captioned(QWidget* parent, std::string_view name, std::string_view capt
   auto* control = new Control(toQt(caption), parent);
   giveNames(*control, name, caption);
   return control;
-}
-
-void fill(QComboBox& list, std::span<const std::string_view> items) {
-  for (const std::string_view item : items) list.addItem(toQt(item));
 }
 
 // Puts a result on the window's own background, so that it is not taken for an input; follows the
@@ -188,18 +185,20 @@ bool ResultColumn::event(QEvent* event) {
   return done;
 }
 
-OptionGroup::OptionGroup(QWidget* parent, std::string_view family, std::span<const Option> options)
-    : QObject(parent) {
-  for (const Option& option : options) {
-    const std::string name = indexed(family, option.index);
-    group_.addButton(captioned<QRadioButton>(parent, name, option.caption), option.index);
-  }
+OptionGroup::OptionGroup(QWidget* parent, std::string_view family)
+    : QObject(parent), parent_(parent), family_(family) {
   connect(&group_, &QButtonGroup::idToggled, this, [this](int index, bool on) {
     // The Tab key stops at the option that is selected; the toolkit leads it to the first one.
     button(index)->setFocusPolicy(on ? Qt::StrongFocus : Qt::ClickFocus);
     if (on) emit chosen(index);
   });
-  for (QAbstractButton* option : group_.buttons()) option->setFocusPolicy(Qt::ClickFocus);
+}
+
+QRadioButton* OptionGroup::add(int index, std::string_view caption) {
+  auto* option = captioned<QRadioButton>(parent_, indexed(family_, index), caption);
+  option->setFocusPolicy(Qt::ClickFocus);
+  group_.addButton(option, index);
+  return option;
 }
 
 QRadioButton* OptionGroup::button(int index) const {
@@ -238,7 +237,7 @@ SelectionList::SelectionList(QWidget* parent, std::string_view name,
                              std::span<const std::string_view> items)
     : QComboBox(parent) {
   setObjectName(toQt(name));
-  fill(*this, items);
+  for (const std::string_view item : items) addItem(toQt(item));
   connect(this, &QComboBox::activated, this, &SelectionList::chosen);
 }
 
@@ -253,10 +252,8 @@ void SelectionList::choose(int index) {
 
 EditableList::EditableList(QWidget* parent, std::string_view name,
                            std::span<const std::string_view> items, std::string_view widest)
-    : QComboBox(parent) {
-  setObjectName(toQt(name));
+    : SelectionList(parent, name, items) {
   // Before the entry field is made, which fixes the width until the list is first shown.
-  fill(*this, items);
   setMinimumContentsLength(static_cast<int>(widest.size()));
   setEditable(true);
   setInsertPolicy(QComboBox::NoInsert);
@@ -264,17 +261,7 @@ EditableList::EditableList(QWidget* parent, std::string_view name,
   keepOnOneLine(*lineEdit());
   // The list would take a typed text that equals an item for a choice of that item.
   disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
-  connect(this, &QComboBox::activated, this, &EditableList::chosen);
   connect(this, &QComboBox::editTextChanged, this, &EditableList::edited);
-}
-
-std::string EditableList::contents() const {
-  return fromQt(currentText());
-}
-
-void EditableList::choose(int index) {
-  setCurrentIndex(index);
-  emit chosen(index);
 }
 
 QCheckBox* checkBox(QWidget* parent, std::string_view name, std::string_view caption) {

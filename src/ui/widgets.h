@@ -13,7 +13,6 @@
 #include <QRadioButton>
 #include <QSlider>
 
-#include <initializer_list>
 #include <span>
 #include <string>
 #include <string_view>
@@ -84,16 +83,10 @@ class OptionGroup : public QObject {
   Q_OBJECT
 
 public:
-  struct Option {
-    int index;
-    std::string_view caption;
-  };
+  OptionGroup(QWidget* parent, std::string_view family);
 
-  // The buttons are children of `parent` in the order given; none is selected yet.
-  OptionGroup(QWidget* parent, std::string_view family, std::span<const Option> options);
-  OptionGroup(QWidget* parent, std::string_view family, std::initializer_list<Option> options)
-      : OptionGroup(parent, family, std::span(options.begin(), options.size())) {}
-
+  // Adds an option, not selected yet, and answers its button, a child of the group's parent.
+  QRadioButton* add(int index, std::string_view caption);
   [[nodiscard]] QRadioButton* button(int index) const;
   // The selected index, -1 while there is none.
   [[nodiscard]] int selected() const;
@@ -104,6 +97,8 @@ signals:
   void chosen(int index);
 
 private:
+  QWidget* parent_;
+  std::string family_;
   QButtonGroup group_;
 };
 
@@ -126,7 +121,7 @@ signals:
   void moved(int position);
 };
 
-// A drop-down list that can only be chosen from.
+// A drop-down list. As it is it can only be chosen from.
 class SelectionList : public QComboBox {
   Q_OBJECT
 
@@ -144,22 +139,17 @@ signals:
 
 // A drop-down list that also takes any typed text as it stands: nothing is completed, corrected
 // or added, and typing an item's text is not choosing it.
-class EditableList : public QComboBox, public FocusListener {
+class EditableList : public SelectionList, public FocusListener {
   Q_OBJECT
 
 public:
   EditableList(QWidget* parent, std::string_view name, std::span<const std::string_view> items,
                std::string_view widest);
 
-  [[nodiscard]] std::string contents() const;
-  // Selects an item from code; `chosen` is raised as when a user picks it.
-  void choose(int index);
-
   void focusEntered() override {}
   void focusLeft() override { emit focusLost(); }
 
 signals:
-  void chosen(int index);
   // The text changed, by typing, by a choice or from code.
   void edited();
   void focusLost();

@@ -1,29 +1,27 @@
-#include "support/every_window.h"
-#include "ui/pixels.h"
+#include "support/look.h"
+#include "support/program.h"
 
-#include <QImage>
-#include <QRadioButton>
+#include <QAbstractButton>
+#include <QApplication>
 
-#include <array>
+#include <algorithm>
 #include <set>
 
 namespace tarnwick::tests {
 namespace {
-
-using Keyboard = EveryWindow;
 
 // Where the Tab key (Shift+Tab, back) leads from a control until it comes round; each control on
 // the way looks different while it has the focus.
 QWidgetList stopsFrom(QWidget* first, Qt::Key key) {
   QWidgetList stops;
   first->setFocus(Qt::TabFocusReason);
-  for (QWidget* at = QApplication::focusWidget(); at != nullptr && !stops.contains(at);) {
+  for (QWidget* at = QApplication::focusWidget(); !stops.contains(at);) {
     stops << at;
-    const QImage focused = at->grab().toImage();
+    const QImage focused = onScreen(at);
     QTest::keyClick(first->window()->windowHandle(), key);
-    const QWidget* next = QApplication::focusWidget();
-    EXPECT_TRUE(next == at || at->grab().toImage() != focused) << at->objectName().toStdString();
-    at = QApplication::focusWidget();
+    QWidget* next = QApplication::focusWidget();
+    EXPECT_TRUE(next == at || onScreen(at) != focused) << fullName(at);
+    at = next;
   }
   return stops;
 }
@@ -44,21 +42,21 @@ void expectReadingOrder(const QWidgetList& stops) {
                         (to.right() >= from.left() || to.top() > from.bottom());
     const QWidget* group = stops[i]->parentWidget();
     EXPECT_TRUE(onward && (group == stops[i - 1]->parentWidget() || groups.insert(group).second))
-        << ui::fromQt(stops[i - 1]->objectName() + " to " + stops[i]->objectName());
+        << fullName(stops[i - 1]) << " to " << fullName(stops[i]);
   }
 }
 
-// The Tab key stops at the selected option; the arrow keys move in its group, and inside the grid.
-bool reaches(const QWidget* stop, const QWidget* control) {
-  const auto* option = qobject_cast<const QRadioButton*>(stop);
-  if (option != nullptr && !option->isChecked()) return false;
-  const bool arrows = control->inherits("QRadioButton") ||
-                      qobject_cast<ui::PixelGrid*>(control->parentWidget()) != nullptr;
-  return stop == control || (arrows && stop->metaObject() == control->metaObject() &&
-                             stop->parentWidget() == control->parentWidget());
+// Whether users go to a control by the Tab key to operate it or to select what it shows. To the
+// other options, and the other cells of a grid, the arrow keys lead; Image2 repeats what is shown
+// elsewhere.
+bool isStop(const QWidget* control) {
+  const auto* button = qobject_cast<const QAbstractButton*>(control);
+  if (isCell(control) || control->parentWidget()->objectName() == "Image2") return false;
+  if (button != nullptr) return button->isChecked() || !control->inherits("QRadioButton");
+  return isResult(control) || control->inherits("QSlider") || control->inherits("QComboBox");
 }
 
-TEST_F(Keyboard, LeadsTheTabKeyToEachControlAsTheEyeGoes) {
+TEST_F(EveryWindow, LeadsTheTabKeyToEachControlAsTheEyeGoes) {
   QApplication::setCursorFlashTime(0);
   for (QWidget* opened : all) {
     turnTo(ui::fromQt(opened->objectName()));
@@ -69,35 +67,28 @@ TEST_F(Keyboard, LeadsTheTabKeyToEachControlAsTheEyeGoes) {
     std::ranges::reverse(back);
     expectReadingOrder(forth);
     expectReadingOrder(back);
-    for (const auto* control : opened->findChildren<QWidget*>()) {
-      if (!isControl(control) || !control->isVisible() || !control->isEnabled()) continue;
-      if (control->parentWidget()->objectName() == "Image2") continue;  // copies of uTleft, uTright
-      EXPECT_TRUE(std::ranges::any_of(forth + back, [&](auto* stop) {
-        return reaches(stop, control);
-      })) << ui::fromQt(opened->objectName() + "." + control->objectName());
-    }
+    for (QWidget* control : controlsOf(opened))
+      EXPECT_TRUE((forth + back).contains(control) || !isStop(control) || !control->isVisible() ||
+                  !control->isEnabled())
+          << fullName(control);
   }
 }
 
-TEST_F(Keyboard, OpensByKeysAlone) {
-  for (QWidget* opened : all)
-    if (opened != window("fMain")) opened->close();
-  QCoreApplication::processEvents();
-  const auto count = [] {
-    return std::ranges::count_if(QApplication::topLevelWidgets(), &QWidget::isVisible);
-  };
-  constexpr std::array keys{Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter};
-  for (std::size_t i = 0; auto* button : window("fMain")->findChildren<QPushButton*>()) {
+using Keyboard = Program;
+
+TEST_F(Keyboard, OpensWindows) {
+  for (const auto key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter}) {
     turnTo("fMain");
-    button->setFocus();
-    const auto before = count();
-    press(keys[i++ % keys.size()]);
-    EXPECT_EQ(count(), before + 1) << button->objectName().toStdString();
+    control("cPWM")->setFocus();
+    press(key);
+    turnTo("fPWM");
+    press(Qt::Key_Escape);
+    turnTo("fPWM");
+    current()->close();
   }
   turnTo("fMain");
   for (const auto key : {Qt::Key_Alt, Qt::Key_Right, Qt::Key_Right, Qt::Key_Right, Qt::Key_Return})
     press(key);
-  EXPECT_NE(windows.loaded("fAbout"), nullptr);
   turnTo("fAbout");
   press(Qt::Key_Enter);
   EXPECT_EQ(windows.loaded("fAbout"), nullptr);

@@ -1,192 +1,197 @@
+#include "support/look.h"
 #include "support/program.h"
 #include "support/story.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QClipboard>
-#include <QKeySequence>
-#include <QLineEdit>
-#include <QSlider>
+#include <QDir>
 
-#include <functional>
 #include <map>
-#include <set>
 
 namespace tarnwick::tests {
 namespace {
 
-// Tells the stories of tests/stories.
-class Telling : public Program, public testing::WithParamInterface<Story> {
-protected:
-  void tell(const QString& act);
-  // What all controls show, parted by "|", lines ended by "\".
-  QString seen(const QStringList& controls);
-  void expectSeen(const QString& controls, const QString& text);
-  void expectDots(const std::string& picture, const QString& dots);
-  void expectRest();
-  QStringList remembered_;
-  QString rememberedTexts_;
-};
+constexpr int pixels = 40;
+
+// A character is drawn as eight rows of five dots, "#" for those that are on.
+bool isOn(const QString& dots, int place) {
+  return dots.mid(place + place / 5, 1) == "#";
+}
 
 // A cell of the drawing grid by its place from the top left on.
 std::string cell(int place) {
   return "chk(" + std::to_string(place / 5 * 5 + 4 - place % 5) + ")";
 }
 
-// As another program finds it; off screen, where there is none, as this one does.
-std::string clipboardSeen() {
-  if (QGuiApplication::platformName() != "offscreen") return clipboardSeenByAnotherProgram();
-  return ui::fromQt(QGuiApplication::clipboard()->text());
+// A text in which "\\" stands for the end of a line.
+std::string lines(QString text) {
+  return ui::fromQt(text.replace("\\", "\r\n"));
 }
 
-QString Telling::seen(const QStringList& controls) {
-  QStringList texts;
-  for (const QString& name : controls) texts << ui::toQt(shown(ui::fromQt(name)));
-  return texts.join('|').replace("\r\n", "\\");
-}
+// Tells the stories of tests/stories.
+class Telling : public Program, public testing::WithParamInterface<Story> {
+public:
+  // What follows an act's verb: all of it, its first word, and the text behind that.
+  struct Words {
+    QString all;
+    std::string name = ui::fromQt(all.section(' ', 0, 0));
+    QString text = all.section(' ', 1);
+  };
+  using Verbs = std::map<QString, void (*)(Telling& user, const Words& words)>;
+  static const Verbs& verbs();
 
-// A text that begins or ends with "..." is compared without what stands there.
-void Telling::expectSeen(const QString& controls, const QString& text) {
-  const QString all = seen(controls.split(' '));
-  const QString wanted = QString(text).remove("...");
-  if (text.endsWith("..."))
-    EXPECT_EQ(all.left(wanted.size()).toStdString(), wanted.toStdString());
-  else if (text.startsWith("..."))
-    EXPECT_EQ(all.right(wanted.size()).toStdString(), wanted.toStdString());
-  else
-    EXPECT_EQ(all.toStdString(), wanted.toStdString());
-}
-
-// Reads a picture's dots by their colours: all pixels of one must have one of its two.
-void Telling::expectDots(const std::string& picture, const QString& dots) {
-  const QColor off = picture == "Preview" ? QColor(0, 128, 0) : QColor(Qt::white);
-  const QImage image = control(picture)->grab().toImage();
-  QString read;
-  for (int i = 0; i < 40; ++i) {
-    std::set<QRgb> colours;
-    for (int pixel = 0; pixel < 9; ++pixel)
-      colours.insert(image.pixel(2 + 3 * (i % 5) + pixel % 3, 2 + 3 * (i / 5) + pixel / 3));
-    const QColor colour = colours.size() == 1 ? QColor(*colours.begin()) : QColor();
-    if (i % 5 == 0 && i > 0) read += ' ';
-    read += colour == QColor(Qt::black) ? '#' : colour == off ? '.' : '?';
+protected:
+  // What all controls show, parted by "|".
+  QString seen(const QString& controls) {
+    QStringList texts;
+    for (const QString& name : controls.split(' ')) texts << ui::toQt(shown(ui::fromQt(name)));
+    return texts.join('|').replace("\r\n", "\\");
   }
-  EXPECT_EQ(read.toStdString(), dots.toStdString());
-}
 
-// Between two acts no button is held down, no list or menu is open, and the keys reach a control.
-void Telling::expectRest() {
-  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
-  for (const QWidget* window : QApplication::topLevelWidgets())
-    for (const auto* button : window->findChildren<QAbstractButton*>())
-      EXPECT_FALSE(button->isDown()) << ui::fromQt(button->objectName());
-  if (const QWidget* focus = QApplication::focusWidget())
-    EXPECT_TRUE(focus->isEnabled()) << ui::fromQt(focus->objectName());
-  else
-    EXPECT_EQ(QApplication::activeWindow(), nullptr) << "no control has the focus";
-}
+  // A text that begins or ends with "..." is compared without what stands there.
+  void expectSeen(const QString& line) {
+    const QString all = seen(line.section(" =", 0, 0));
+    const QString wanted = line.section(" =", 1).mid(1);
+    const qsizetype length = QString(wanted).remove("...").size();
+    const QString part = wanted.startsWith("...") ? "..." + all.right(length)
+                         : wanted.endsWith("...") ? all.left(length) + "..."
+                                                  : all;
+    EXPECT_EQ(part.toStdString(), wanted.toStdString());
+  }
 
-void Telling::tell(const QString& act) {
-  const QString rest = act.section(' ', 1);
-  const std::string name = ui::fromQt(rest.section(' ', 0, 0));
-  const std::string text = ui::fromQt(QString(rest.section(' ', 1)).replace("\\", "\r\n"));
-  const auto expectEach = [&](bool (QWidget::*state)() const, bool wanted) {
-    for (const QString& each : rest.split(' '))
+  void expectEach(const QString& controls, bool (QWidget::*state)() const, bool wanted) {
+    for (const QString& each : controls.split(' '))
       EXPECT_EQ((control(ui::fromQt(each))->*state)(), wanted) << ui::fromQt(each);
-  };
-  const auto expectShown = [&](const QString& line) {
-    expectSeen(line.section(" =", 0, 0), line.section(" =", 1).mid(1));
-  };
-  const std::map<QString, std::function<void()>> verbs{
+  }
+
+  // Reads what stands on the screen: nine pixels of a dot must have one of its two colours.
+  static void expectDots(QWidget* picture, int first, int pitch, const QString& dots) {
+    const QImage image = onScreen(picture);
+    const QColor off = picture->objectName() == "Preview" ? QColor(0, 128, 0) : QColor(Qt::white);
+    for (int i = 0; i < pixels; ++i)
+      for (int p = 0; p < 9; ++p)
+        EXPECT_EQ(
+            image.pixelColor(first + pitch * (i % 5) + p % 3, first + pitch * (i / 5) + p / 3),
+            isOn(dots, i) ? QColor(Qt::black) : off)
+            << "dot " << i;
+  }
+
+  void draw(const QString& dots) {
+    for (int i = 0; i < pixels; ++i)
+      if (isOn(dots, i)) click(cell(i));
+  }
+
+  // Between two acts no button is held down, no list or menu is open, the keys reach a control, and
+  // the window looks as it should.
+  void expectRest() {
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    for (const QWidget* window : QApplication::topLevelWidgets())
+      for (const auto* button : window->findChildren<QAbstractButton*>())
+        EXPECT_FALSE(button->isDown()) << fullName(button);
+    if (const QWidget* focus = QApplication::focusWidget())
+      EXPECT_TRUE(focus->isEnabled()) << fullName(focus);
+    else
+      EXPECT_EQ(QApplication::activeWindow(), nullptr) << "no control has the focus";
+    if (current() != nullptr && message() == nullptr) expectGoodLook(current());
+  }
+
+private:
+  QString remembered_;
+};
+
+const Telling::Verbs& Telling::verbs() {
+  using User = Telling&;
+  using Is = const Words&;
+  static const Verbs all{
       // Windows and messages
-      {"open", [&] { open(name, text); }},
-      {"turn", [&] { turnTo(name); }},
-      {"close", [&] { current()->close(); }},
-      {"message", [&] { EXPECT_EQ(messageShown(), ui::fromQt(rest)); }},
-      {"ok", [&] { confirmMessage(); }},
+      {"open", [](User user, Is act) { user.open(act.name, ui::fromQt(act.text)); }},
+      {"turn", [](User user, Is act) { user.turnTo(act.name); }},
+      {"close", [](User user, Is) { user.current()->close(); }},
+      {"message", [](User user, Is act) { EXPECT_EQ(user.messageShown(), ui::fromQt(act.all)); }},
+      {"ok", [](User user, Is) { user.confirmMessage(); }},
       // What the user does
-      {"click", [&] { click(name); }},
-      {"menu", [&] { click(name, Qt::RightButton); }},
-      {"go", [&] { control(name)->setFocus(Qt::TabFocusReason); }},
-      {"press",
-       [&] {
-         for (const QString& key : rest.split(' ')) {
-           const QKeyCombination keys = QKeySequence(key)[0];
-           press(keys.key(), keys.keyboardModifiers());
-         }
-       }},
-      {"type", [&] { type(ui::fromQt(rest)); }},
-      {"retype", [&] { enter(name, text); }},
-      {"enter", [&] { enterAndConfirm(name, text); }},
-      {"copy", [&] { QGuiApplication::clipboard()->setText(rest); }},
-      {"paste", [&] { paste(name, text); }},
-      {"pick", [&] { pick(name, std::stoi(text)); }},
-      {"draw",
-       [&] {
-         for (int i = 0; i < 40; ++i)
-           if (rest[i + i / 5] == '#') click(cell(i));
-       }},
+      {"click", [](User user, Is act) { user.click(act.name); }},
+      {"menu", [](User user, Is act) { user.click(act.name, Qt::RightButton); }},
+      {"go", [](User user, Is act) { user.control(act.name)->setFocus(Qt::TabFocusReason); }},
+      {"press", [](User user, Is act) { user.press(QKeySequence(act.all)[0]); }},
+      {"type", [](User user, Is act) { user.type(ui::fromQt(act.all)); }},
+      {"retype", [](User user, Is act) { user.enter(act.name, ui::fromQt(act.text)); }},
+      {"enter", [](User user, Is act) { user.enter(act.name, ui::fromQt(act.text) + "\r"); }},
+      {"copy", [](User, Is act) { QGuiApplication::clipboard()->setText(act.all); }},
+      {"paste", [](User user, Is act) { user.paste(act.name, lines(act.text)); }},
+      {"pick", [](User user, Is act) { user.pick(act.name, std::stoi(ui::fromQt(act.text))); }},
+      {"draw", [](User user, Is act) { user.draw(act.all); }},
       // What assistive tools and the wheel do: the focus stays
-      {"trigger", [&] { control<QAbstractButton>(name)->click(); }},
+      {"trigger", [](User user, Is act) { user.control<QAbstractButton>(act.name)->click(); }},
       {"put",
-       [&] {
-         if (auto* slider = qobject_cast<QSlider*>(control(name)))
-           slider->setValue(std::stoi(text));
-         else
-           control<QLineEdit>(name)->setText(ui::toQt(text));
+       [](User user, Is act) {
+         QWidget* control = user.control(act.name);
+         control->setProperty(control->inherits("QSlider") ? "value" : "text", act.text);
        }},
       // What the user sees
-      {"see", [&] { expectShown(rest); }},
+      {"see", [](User user, Is act) { user.expectSeen(act.all); }},
       {"remember",
-       [&] {
-         remembered_ = rest.split(' ');
-         rememberedTexts_ = seen(remembered_);
+       [](User user, Is act) { user.remembered_ = act.all + " = " + user.seen(act.all); }},
+      {"same", [](User user, Is) { user.expectSeen(user.remembered_); }},
+      {"picture", [](User user, Is act) { expectDots(user.control(act.name), 2, 3, act.text); }},
+      {"grid", [](User user,
+                  Is act) { expectDots(user.control("chk(4)")->parentWidget(), 7, 16, act.all); }},
+      {"focus", [](User user, Is act) { EXPECT_EQ(user.focused(), act.name); }},
+      {"enabled", [](User user, Is act) { user.expectEach(act.all, &QWidget::isEnabled, true); }},
+      {"disabled", [](User user, Is act) { user.expectEach(act.all, &QWidget::isEnabled, false); }},
+      {"visible", [](User user, Is act) { user.expectEach(act.all, &QWidget::isVisible, true); }},
+      {"hidden", [](User user, Is act) { user.expectEach(act.all, &QWidget::isVisible, false); }},
+      {"left",
+       [](User user, Is act) {
+         const int left = user.control(act.name)->mapTo(user.current(), QPoint()).x();
+         EXPECT_EQ(left, std::stoi(ui::fromQt(act.text)));
        }},
-      {"same", [&] { EXPECT_EQ(seen(remembered_), rememberedTexts_); }},
-      {"picture", [&] { expectDots(name, rest.section(' ', 1)); }},
-      {"grid",
-       [&] {
-         for (int i = 0; i < 40; ++i) {
-           const QColor colour(control(cell(i))->grab().toImage().pixel(8, 8));
-           EXPECT_EQ(colour, QColor(rest[i + i / 5] == '#' ? Qt::black : Qt::white)) << cell(i);
-         }
-       }},
-      {"focus", [&] { EXPECT_EQ(focused(), name); }},
-      {"enabled", [&] { expectEach(&QWidget::isEnabled, true); }},
-      {"disabled", [&] { expectEach(&QWidget::isEnabled, false); }},
-      {"visible", [&] { expectEach(&QWidget::isVisible, true); }},
-      {"hidden", [&] { expectEach(&QWidget::isVisible, false); }},
-      {"left", [&] { EXPECT_EQ(control(name)->mapTo(current(), QPoint()).x(), std::stoi(text)); }},
-      {"clipboard",
-       [&] { EXPECT_EQ(clipboardSeen(), ui::fromQt(QString(rest).replace("\\", "\r\n"))); }},
+      {"clipboard", [](User, Is act) { EXPECT_EQ(clipboardSeen(), lines(act.all)); }},
   };
-  const auto found = verbs.find(act.section(' ', 0, 0));
-  ASSERT_NE(found, verbs.end()) << "no such act";
-  found->second();
-  expectRest();
+  return all;
 }
 
 TEST_P(Telling, HoldsTrue) {
+  ASSERT_EQ(GetParam().mistake, "");
   for (const auto& [line, text] : GetParam().acts) {
     SCOPED_TRACE("line " + std::to_string(line) + ": " + ui::fromQt(text));
-    tell(text);
+    verbs().at(text.section(' ', 0, 0))(*this, {text.section(' ', 1)});
+    expectRest();
     if (HasFatalFailure()) return;
   }
 }
 
-std::vector<Story> storiesOnDisplay(bool onDisplay) {
-  std::vector<Story> chosen;
-  for (const Story& story : readStories(QStringLiteral(TESTS_FOLDER "/stories")))
-    if ((story.name.find("_OnDisplay") != std::string::npos) == onDisplay) chosen.push_back(story);
-  return chosen;
+QList<Story> told() {
+  QStringList verbs;
+  for (const auto& [verb, meaning] : Telling::verbs()) verbs << verb;
+  QList<Story> all;
+  const QDir folder(QStringLiteral(TESTS_FOLDER "/stories"));
+  for (const QString& name : folder.entryList({"*.txt"}, QDir::Files, QDir::Name)) {
+    QFile file(folder.filePath(name));
+    all << readStories(name, file.open(QIODevice::ReadOnly) ? file.readAll() : "", verbs);
+  }
+  return all;
 }
 
-std::string nameOf(const testing::TestParamInfo<Story>& info) {
-  return info.param.name;
-}
+INSTANTIATE_TEST_SUITE_P(Stories, Telling, testing::ValuesIn(told()),
+                         [](const auto& story) { return story.param.name; });
 
-INSTANTIATE_TEST_SUITE_P(Stories, Telling, testing::ValuesIn(storiesOnDisplay(false)), nameOf);
-INSTANTIATE_TEST_SUITE_P(OnDisplayStories, Telling, testing::ValuesIn(storiesOnDisplay(true)),
-                         nameOf);
+TEST(StoryReader, NamesTheLineOfAMistake) {
+  for (const auto& [text, mistake] : std::initializer_list<std::pair<const char*, const char*>>{
+           {"go {a}\n== A\nlet {a} x\n", "a.txt:1: {a} stands for nothing"},
+           {"go\n", "a.txt:1: stands outside of a story"},
+           {"== A\ngo\nend\n", "a.txt:3: ends no loop"},
+           {"== A\nfor {a} in 1; 2\ngo\n== B\nend\n", "a.txt:2: the loop has no end"},
+           {"== A\nfor {a} {b} in\n1; 2\ngo\nend\n", "a.txt:2: the table has no do"},
+           {"== A\nfor {a} {b} in\n1; 2\n1\ndo\ngo\nend\n", "a.txt:4: 1 values, not 2"},
+           {"== A\nfor {a} {b} in\n1; 2; 3\ndo\ngo\nend\n", "a.txt:3: 3 values, not 2"},
+           {"== A\ngo\nfetch\n", "a.txt:3: no such act"},
+           {"== A\n|go\n", "a.txt:2: continues nothing"},
+           {"== A\n# all is well\nfor {a} in x; y\n  go\n  |{a}\nend\n", ""}})
+    EXPECT_EQ(readStories("a.txt", text, {"go"}).front().mistake, mistake) << text;
+}
 
 }  // namespace
 }  // namespace tarnwick::tests

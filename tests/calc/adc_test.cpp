@@ -1,14 +1,11 @@
 #include "calc/adc.h"
 
+#include "calc/joined.h"
+
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <array>
 #include <cmath>
-#include <cstddef>
-#include <cstdint>
-#include <optional>
-#include <random>
 #include <sstream>
 #include <string>
 #include <utility>
@@ -16,91 +13,63 @@
 namespace tarnwick::calc {
 namespace {
 
-using std::int64_t;
-constexpr int randomInputs = 100'000;
-constexpr std::array<int64_t, 14> settings{2, 4, 6, 8, 12, 16, 20, 24, 28, 32, 36, 40, 48, 64};
-
-TEST(AcquisitionTime, RoundsUpToWholeMicroseconds) {
-  using Case = std::pair<double, double>;
-  for (const auto& [ohms, time] : {Case{1, 2}, Case{24000, 22}, Case{24000.001, 23}, Case{1e6, 842},
-                                   Case{-1e6, -838}, Case{1e308, HUGE_VAL}})
-    EXPECT_EQ(AcquisitionTime(ohms), time) << ohms;
-}
-
-TEST(AcquisitionTime, IsTheSmallestWholeTimeThatSuffices) {
-  std::mt19937_64 random(71);
-  for (int i = 0; i < randomInputs; ++i) {
-    const auto ohms = static_cast<int64_t>(random() >> (random() % 36 + 28));
-    const int64_t picoseconds = (ohms + 1000) * 840 + 1'000'000;
-    ASSERT_EQ(AcquisitionTime(static_cast<double>(ohms)),
-              static_cast<double>((picoseconds + 999'999) / 1'000'000));
+TEST(Adc, ShowsClockAndAcquisition) {
+  using Case = std::pair<AdcInputs, const char*>;
+  for (const auto& [inputs, texts] :
+       {Case{{4, 10, true}, "Fosc/8 (ADCS=001)|6 Tad|11 uSec|"},
+        Case{{1.3, 10, true}, "Fosc/2 (ADCS=000)|8 Tad|11 uSec|"},
+        Case{{1, 1, true}, "Fosc/2 (ADCS=000)|0 Tad|3 uSec|"},
+        Case{{1, 1, false}, "Fosc/2 (ADCS=000)|0 Tad|2 uSec|"},
+        Case{{40, 2.5, true}, "Fosc/64 (ADCS=110)|4 Tad|4 uSec|"},
+        Case{{41, 2.5, true}, "Frc (ADCS=111)|0 Tad|4 uSec|"},
+        Case{{20, 1000, true}, "Fosc/32 (ADCS=010)|64 Tad|842 uSec|"},
+        Case{{20, 24000, false}, "Fosc/32 (ADCS=010)|16 Tad|22 uSec|"},
+        Case{{20, 24000.001, false}, "Fosc/32 (ADCS=010)|16 Tad|23 uSec|"},
+        Case{{20, -5, true}, "Fosc/32 (ADCS=010)|0 Tad|-2 uSec|"},
+        Case{{20, 1e308, true}, "Fosc/32 (ADCS=010)|64 Tad||"},
+        Case{{0, 1e308, true}, "Fosc/2 (ADCS=000)|0 Tad||"},
+        Case{{-1e308, 10000, false}, "Fosc/2 (ADCS=000)|0 Tad|11 uSec|"}}) {
+    const AdcShown shown = showAdc(inputs);
+    EXPECT_EQ(joined(shown.clock, shown.acquisitionTad, shown.acquisitionTime), texts);
   }
 }
 
-TEST(ClockChoice, TakesTheRowOfTheRoundedDivisor) {
-  double above = -1e300;
+TEST(Adc, TakesTheClockOfTheRoundedDivisor) {
+  double above = 0;
   using Case = std::pair<double, std::string>;
-  for (const auto& [upTo, row] :
+  for (const auto& [upTo, clock] :
        {Case{1.5625, "0 Fosc/2 (ADCS=000)"}, Case{2.8125, "4 Fosc/4 (ADCS=100)"},
         Case{5.3125, "1 Fosc/8 (ADCS=001)"}, Case{10.3125, "5 Fosc/16 (ADCS=101)"},
         Case{20.3125, "2 Fosc/32 (ADCS=010)"}, Case{40.3125, "6 Fosc/64 (ADCS=110)"},
         Case{1e308, "7 Frc (ADCS=111)"}}) {
     for (const double Fosc : {above, upTo}) {
-      const AdcClock clock = ClockChoice(Fosc);
-      EXPECT_EQ(std::string(clock.code) + " " + adcClockText(clock), row) << Fosc;
-      EXPECT_EQ(clock.label, clock.divisor ? "Fosc/" + std::to_string(*clock.divisor) : "Frc");
+      const AdcShown shown = showAdc({Fosc, 10, true});
+      EXPECT_EQ(std::string(shown.Clock.code) + " " + shown.clock, clock) << Fosc;
+      EXPECT_EQ(shown.clock.find(shown.Clock.label), 0);
     }
     above = upTo + 1e-12;
   }
 }
 
-TEST(AcquisitionTad, KeepsToItsSettingsAtTheirEdges) {
-  for (std::size_t i = 0; i < settings.size(); ++i) {  // 2 MHz / 2: one Tad lasts exactly 1 us
-    const auto edge = static_cast<double>(settings[i]);
-    EXPECT_EQ(AcquisitionTad(edge, 2, 2), i == 0 ? 0 : settings[i]);
-    EXPECT_EQ(AcquisitionTad(edge * (1 + 1e-15), 2, 2), settings[std::min<std::size_t>(i + 1, 13)]);
-  }
-  EXPECT_EQ(AcquisitionTad(HUGE_VAL, 20, 32), 64);
-  EXPECT_EQ(AcquisitionTad(HUGE_VAL, 0, 2), 0);
-  EXPECT_EQ(AcquisitionTad(-838, 20, 32), 0);
-  EXPECT_EQ(AcquisitionTad(11, 41, std::nullopt), 0);
-}
-
-// In whole numbers: one Tad lasts 1000 * divisor / kHz us. Where the time is exactly a setting, the
-// last binary digit of the quotient decides; such inputs are left out.
-TEST(AcquisitionTad, IsTheSmallestSettingThatSuffices) {
-  std::mt19937 random(72);
-  for (int tried = 0; tried < randomInputs;) {
-    const int64_t kHz = std::uniform_int_distribution(1, 40312)(random);
-    const int64_t time = std::uniform_int_distribution(1, 300)(random);
-    const double Fosc = static_cast<double>(kHz) / 1000;
-    const int divisor = ClockChoice(Fosc).divisor.value();
-    const auto slack = [&](int64_t setting) { return setting * 1000 * divisor - time * kHz; };
-    const auto* found = std::ranges::find_if(settings, [&](auto s) { return slack(s) >= 0; });
-    const int64_t smallest = found == settings.end() ? 64 : *found;
-    if (slack(smallest) == 0) continue;
-    ASSERT_EQ(AcquisitionTad(static_cast<double>(time), Fosc, divisor),
-              smallest == 2 ? 0 : smallest)
-        << kHz << " kHz, " << time << " us";
-    ++tried;
+TEST(Adc, TakesTheFirstSettingThatCoversTheTime) {
+  int setting = 0;  // 2 MHz / 2: one Tad lasts exactly 1 us
+  for (const int nextSetting : {4, 6, 8, 12, 16, 20, 24, 28, 32, 36, 40, 48, 64, 64}) {
+    const double edge = setting == 0 ? 2 : setting;
+    EXPECT_EQ(AcquisitionTad(edge, 2, 2), setting);
+    EXPECT_EQ(AcquisitionTad(edge * (1 + 1e-15), 2, 2), nextSetting);
+    setting = nextSetting;
   }
 }
 
-TEST(AdcDefineText, BuildsTheThreeLines) {
+TEST(Adc, CopiesThreeLinesWithTheirCommentsInOneColumn) {
   EXPECT_EQ(AdcDefineText(842, ClockChoice(41), AdcResolution::Bits8),
             "DEFINE ADC_BITS  8      ' ADCIN resolution  (Bits)\r\n"
             "DEFINE ADC_CLOCK 7      ' ADC clock source  (Frc)\r\n"
             "DEFINE ADC_SAMPLEUS 842 ' ADC sampling time (uSec)");
-}
-
-TEST(AdcDefineText, AlignsItsCommentMarks) {
-  for (int time = 0; time <= 10000; ++time) {
-    for (const double Fosc : {1, 2, 4, 8, 16, 32, 64}) {
-      std::istringstream text(AdcDefineText(time, ClockChoice(Fosc), AdcResolution::Bits8));
-      for (std::string line; std::getline(text, line);)  // the padding is at its widest above 9999
-        ASSERT_EQ(line.find('\''), 21 + std::to_string(time).size() -
-                                       (time > 9999 && !line.starts_with("DEFINE ADC_SAMPLE")));
-    }
+  for (const int time : {4, 9, 10, 99, 100, 999, 1000, 9999}) {
+    std::istringstream text(AdcDefineText(time, ClockChoice(4), AdcResolution::Bits10));
+    for (std::string line; std::getline(text, line);)
+      EXPECT_EQ(line.find('\''), 21 + std::to_string(time).size()) << line;
   }
 }
 

@@ -1,104 +1,72 @@
 #include "calc/pwm.h"
 
+#include "calc/joined.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cmath>
-#include <random>
-#include <string>
-#include <tuple>
+#include <limits>
+#include <utility>
 
 namespace tarnwick::calc {
 namespace {
 
-TEST(PwmRange, ShowsWhatTheOscillatorReaches) {
-  using Case = std::tuple<double, const char*, const char*>;
-  for (const auto& [Fosc, min, max] :
-       {Case{4e6, "244.141 Hz", "500.0 KHz"}, Case{8e6, "488.281 Hz", "1.0 MHz"},
-        Case{16.384e6, "1.0 KHz", "2.048 MHz"}, Case{0, "0.0 Hz", "0.0 KHz"}}) {
-    const PwmLimitTexts texts = pwmLimitTexts(PwmRange(Fosc));
-    EXPECT_EQ(texts.min + texts.max, std::string(min) + max);
-  }
+std::string texts(const PwmShown& shown) {
+  return joined(shown.minFreq, shown.maxFreq, shown.calcFreq, shown.prescaler, shown.resolution,
+                shown.maxDutyVal, shown.dutyStep, shown.PR2, shown.dutyRegister, shown.calcDuty);
 }
 
-TEST(PwmSearch, TestsThePeriodRegisterBeforeItIsRounded) {
+TEST(Pwm, ListsThePrescalersThatFitAndTheirDuty) {
+  using Case = std::pair<PwmInputs, const char*>;
+  for (const auto& [inputs, wanted] :
+       {Case{{4, 1, true, 100},
+             "244.141 Hz|500.0 KHz| 1.0 KHz/ 0.992 KHz/|1:4/1:16/|10 Bit/8 Bit/|1000/250/|"
+             "0.1 %/0.4 %/|  249/  62/|1000/250/|100.0 %/99.21 %/|"},
+        Case{{4, 1000, false, 0},
+             "244.141 Hz|500.0 KHz| 1000.0 Hz/ 992.063 Hz/|1:4/1:16/|10 Bit/8 Bit/|1000/250/|"
+             "0.1 %/0.4 %/|  249/  62/|0/0/|.0 %/.0 %/|"},
+        // Two of 64 counts are 3.125 %; with the larger prescalers 3 % are less than half a count.
+        Case{{4, 62.5, true, 3},
+             "244.141 Hz|500.0 KHz| 62.5 KHz/ 62.5 KHz/ 62.5 KHz/|1:1/1:4/1:16/|7 Bit/5 Bit/3 Bit/|"
+             "64/16/4/|1.563 %/6.25 %/25.0 %/|  15/  3/  0/|2/0/0/|3.13 %/.0 %/.0 %/|"},
+        Case{{8, 2.6, true, 50},
+             "488.281 Hz|1.0 MHz| 2.604 KHz/ 2.604 KHz/|1:4/1:16/|10 Bit/8 Bit/|769/192/|0.13 "
+             "%/0.521 %/|  191/  47/|384/96/|50.0 %/50.0 %/|"},
+        Case{{16.384, 3, true, 50},
+             "1.0 KHz|2.048 MHz| 3.012 KHz/|1:16/|9 Bit/|341/|0.293 %/|  84/|170/|50.0 %/|"},
+        Case{{20, 1, true, 50}, "1.221 KHz|2.5 MHz|||||||||"},
+        Case{{4, 1, false, 50}, "244.141 Hz|500.0 KHz|||||||||"},
+        Case{{4, 1001, true, 50}, "244.141 Hz|500.0 KHz|||||||||"},
+        Case{{0, 1, true, 50}, "0.0 Hz|0.0 KHz|||||||||"},
+        Case{{-4, 1, true, 50}, "-244.141 Hz|-500.0 KHz|||||||||"}})
+    EXPECT_EQ(texts(showPwm(inputs)), wanted);
+}
+
+TEST(Pwm, TestsThePeriodRegisterBeforeItIsRounded) {
   // At 4 MHz with prescaler 1 the register value is 1 MHz / F - 1.
-  using Case = std::tuple<double, std::optional<double>, bool>;
-  for (const auto& [F, PR2, aboveRange] :
-       {Case{1e6 / 256.2, {}, false}, Case{1e6 / 255.6, 255, false}, Case{1e6 / 24, 23, false},
-        Case{1e6, 0, true}, Case{1e6 / 0.9, {}, true}, Case{1e6 / 3.5, 2, true}}) {
-    const PwmMatches matches = PwmSearch(4e6, F);
-    const auto& match = matches.bySlot[0];
-    EXPECT_EQ(match ? std::optional(match->PR2) : std::nullopt, PR2) << F;
-    EXPECT_EQ(matches.aboveRange, aboveRange) << F;
-  }
-  EXPECT_FALSE(PwmSearch(4e6, 1e6 / 16).aboveRange);  // a register value of 0 with prescaler 16
+  using Case = std::pair<double, const char*>;
+  for (const auto& [counts, PR2] :
+       {Case{256.2, "  63/  15/"}, Case{255.6, "  255/  63/  15/"}, Case{256, "  255/  63/  15/"},
+        Case{3.5, "  2/"}, Case{0.9, ""}, Case{4096, "  255/"}, Case{4096.1, ""}})
+    EXPECT_EQ(joined(showPwm({4, 1e6 / counts, false, 50}).PR2), joined(PR2)) << counts;
+  EXPECT_TRUE(PwmSearch(4e6, 1e6).aboveRange);
+  EXPECT_FALSE(PwmSearch(4e6, 1e6 / 16).aboveRange);
 }
 
-TEST(PwmSearch, MatchesNothingOutsideTheNumbers) {
-  for (const double Fosc : {0.0, -4e6, HUGE_VAL, 4e6})
-    for (const double F : {0.0, HUGE_VAL, 1e-320, 1.0})
-      EXPECT_EQ(PwmSearch(Fosc, F).MatchCount, 0) << Fosc << ' ' << F;
+TEST(Pwm, FollowsTheDutyOfTheMatchesFoundLast) {
+  const PwmShown before = showPwm({4, 1, true, 50});
+  const PwmShown after = next(before, {4, 77, false, 25});
+  EXPECT_EQ(joined(after.PR2, after.dutyRegister, after.calcDuty),
+            "  249/  62/|250/63/|25.0 %/25.0 %/|");
+  EXPECT_EQ(texts(next(before, {0, 1, true, 25})), texts(before));
 }
 
-TEST(PwmResolution, FollowsItsTable) {
+TEST(Pwm, CountsTheBitsByATableWithoutABoundAt128) {
   int bits = 1;
-  for (const int most : {1, 2, 4, 8, 16, 32, 64, 256, 512, 1024}) {  // 128 is no bound
+  for (const int most : {1, 2, 4, 8, 16, 32, 64, 256, 512, 1024}) {
     EXPECT_EQ(PwmResolution(most), bits);
     EXPECT_EQ(PwmResolution(most + 1), std::min(++bits, 10));
   }
-  EXPECT_EQ(PwmResolution(128) + PwmResolution(129), 16);
-}
-
-TEST(PwmDuty, ShowsWhatItCan) {
-  PwmMatches matches;  // registers that large have no PWM module behind them
-  matches.bySlot = {PwmMatch{.FreqKHz = 1, .MaxDutyVal = 1999},
-                    PwmMatch{.FreqKHz = 1, .MaxDutyVal = 2500}};
-  EXPECT_EQ(pwmDutyTexts(matches, 100, 4e6)->dutyRegister, "1999\r\n2.5\r\n");
-  EXPECT_EQ(pwmDutyTexts(matches, 0, HUGE_VAL)->dutyRegister, "\r\n\r\n");
-  EXPECT_FALSE(pwmDutyTexts(matches, 50, 0));
-}
-
-// Any oscillator, and frequencies on both sides of what it reaches. The period in oscillator
-// clocks is computed here in one step and in more digits, so only values within a hair of a bound
-// are left undecided.
-TEST(PwmSearch, FindsExactlyThePrescalersThatFit) {
-  std::mt19937_64 random(1);
-  std::uniform_real_distribution<double> oscillator(std::log(0.03e6), std::log(64e6));
-  std::uniform_real_distribution<double> clocks(std::log(2), std::log(32768));
-  std::uniform_real_distribution<double> percent(0, 110);
-  constexpr long double half = 0.5L + 1e-9L;
-  int found = 0;
-  for (int n = 0; n < 100000; ++n) {
-    const double Fosc = std::exp(oscillator(random));
-    const double F = Fosc / std::exp(clocks(random));
-    const double D = percent(random);
-    const PwmMatches matches = PwmSearch(Fosc, F);
-    int count = 0;
-    for (std::size_t i = 0; i < pwmPrescalers.size(); ++i) {
-      const auto& match = matches.bySlot[i];
-      const long double P = pwmPrescalers[i];
-      const long double exact = static_cast<long double>(Fosc) / F / 4 / P - 1;
-      const bool near = std::fabs(exact) < 1e-9L || std::fabs(exact - 255) < 1e-9L;
-      ASSERT_TRUE(near || match.has_value() == (exact > 0 && exact < 255)) << Fosc << ' ' << F;
-      if (!match) continue;
-      ++count;
-      ASSERT_EQ(match->Prescaler, pwmPrescalers[i]);
-      ASSERT_TRUE(match->PR2 >= 0 && match->PR2 <= 255 && match->PR2 == std::floor(match->PR2));
-      ASSERT_LE(std::fabs(match->PR2 - exact), half);
-      const long double kHz = Fosc / (4 * P * (match->PR2 + 1)) / 1000;
-      ASSERT_NEAR(match->FreqKHz, static_cast<double>(kHz), 1e-12 * match->FreqKHz);
-      ASSERT_LE(std::fabs(match->MaxDutyVal - 4 * (exact + 1)), half);
-      const PwmDutyValue duty = PwmDuty(*match, D, Fosc);
-      ASSERT_TRUE(duty.Register >= 0 && duty.Register <= match->MaxDutyVal) << D;
-      const long double period = 4 * (match->PR2 + 1);
-      ASSERT_LE(std::fabs(duty.Register - std::fmin(D / 100 * period, match->MaxDutyVal)), half);
-      ASSERT_NEAR(duty.Duty, static_cast<double>(duty.Register / period * 100), 1e-9);
-    }
-    ASSERT_EQ(matches.MatchCount, count);
-    found += count;
-  }
-  EXPECT_GT(found, 100000);
 }
 
 }  // namespace

@@ -2,28 +2,47 @@
 
 #include <gtest/gtest.h>
 
-#include <limits>
 #include <tuple>
 
 namespace tarnwick::calc {
 namespace {
 
-TEST(Ser2Mode, GivesTheNumbersOfTheCommonRates) {
-  const std::optional<double> none;
-  const double infinite = std::numeric_limits<double>::infinity();
-  constexpr Ser2Options plain, open{.open = true}, parity{.parity = true};
-  constexpr Ser2Options mixed{.inverted = true, .parity = true};
-  constexpr Ser2Options all{.open = true, .inverted = true, .parity = true};
-  using Case = std::tuple<double, Ser2Options, std::optional<double>>;
-  for (const auto& [baud, options, mode] :
-       {Case{300, plain, 3313}, Case{9600, plain, 84}, Case{38400, plain, 6},
-        Case{57600, plain, none}, Case{57600, open, 32765}, Case{57600, parity, 8189},
-        Case{9600, open, 32852}, Case{9600, mixed, 24660}, Case{9600, all, 57428},
-        Case{1000000.0 / 21, plain, 1}, Case{50000, plain, none}, Case{120, all, none},
-        Case{9615.394, plain, 83}, Case{1000000.0 / 65554, plain, 65534},
-        Case{1000000.0 / 65555, plain, none}, Case{0, open, none}, Case{-5, open, none},
-        Case{infinite, open, none}})
-    EXPECT_EQ(Ser2Mode(baud, options), mode) << baud;
+TEST(Ser2Mode, AddsTheOptionsToTheBitTimeBeforeItTestsTheRange) {
+  using enum Ser2Parity;
+  using Case = std::tuple<Ser2Inputs, const char*, bool>;
+  Ser2Shown shown;
+  for (const auto& [inputs, mode, offersOdd] :
+       {Case{{300}, "3313", false},
+        Case{{600}, "1646", false},
+        Case{{1200}, "813", false},
+        Case{{2400}, "396", false},
+        Case{{2.4, true}, "396", false},
+        Case{{4800}, "188", false},
+        Case{{19200}, "32", false},
+        Case{{38400}, "6", false},
+        Case{{57600}, "", false},
+        Case{{115200}, "", false},
+        Case{{9600, true}, "", false},
+        Case{{9615.394}, "83", false},
+        Case{{9600, false, true}, "32852", false},
+        Case{{9600, false, false, true, Even}, "24660", false},
+        Case{{9600, false, true, true, Odd}, "57428", true},
+        Case{{57600, false, true}, "32765", false},
+        Case{{1, false, false, false, Odd}, "", false},  // the offer stays as it was
+        Case{{57600, false, false, false, Odd}, "8189", true},
+        Case{{57600}, "", true},
+        Case{{9600, false, false, false, Even}, "8276", false},
+        Case{{1000000.0 / 21}, "1", false},
+        Case{{50000}, "", false},
+        Case{{1000000.0 / 65554}, "65534", false},
+        Case{{1000000.0 / 65555}, "", false},
+        Case{{0, false, true}, "", false},
+        Case{{-5, false, true}, "", false},
+        Case{{1e308, true, true}, "", false}}) {
+    shown = next(shown, inputs);
+    EXPECT_EQ(shown.mode, mode) << inputs.rate;
+    EXPECT_EQ(shown.offersOdd, offersOdd) << inputs.rate;
+  }
 }
 
 }  // namespace

@@ -76,10 +76,10 @@ TEST(Format, FollowsThePatterns) {
     EXPECT_EQ(format(value, pattern), text) << value << ' ' << pattern;
 }
 
-TEST(Format, AgreesWithWholeNumberArithmeticOnAMillionValues) {
+TEST(Format, AgreesWithWholeNumberArithmeticOnManyValues) {
   std::mt19937_64 random(1);
   std::size_t next = 0;
-  for (int turn = 0; turn < 1'000'000; ++turn) {
+  for (int turn = 0; turn < 50'000; ++turn) {
     const double value = randomValue(random, turn);
     for (int i = 0; i < 3; ++i) {
       const std::string& pattern = patternsInUse[next++ % patternsInUse.size()];
@@ -109,7 +109,7 @@ TEST(NumberText, IsAsShortAsFifteenDigitsAllow) {
 
 TEST(NumberText, WritesTheDigitsOfTheCLibrary) {
   std::mt19937_64 random(2);
-  for (int turn = 0; turn < 300'000; ++turn) {
+  for (int turn = 0; turn < 50'000; ++turn) {
     const double value = randomValue(random, turn);
     if (!std::isfinite(value) || value == 0) continue;
     char text[40];

@@ -9,7 +9,6 @@
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
-#include <cstdlib>
 #include <limits>
 #include <random>
 #include <string>
@@ -54,30 +53,9 @@ TEST(ReadNumber, TakesTheLeadingNumericPart) {
   }
 }
 
-TEST(ReadNumber, AgreesWithTheCLibraryOnDecimalTexts) {
-  std::mt19937_64 random(3);
-  const auto pick = [&](int from, int to) {
-    return std::uniform_int_distribution<int>(from, to)(random);
-  };
-  const auto digits = [&](int count) {
-    std::string text;
-    for (; count > 0; --count) text += static_cast<char>('0' + pick(0, 9));
-    return text;
-  };
-  for (int turn = 0; turn < 200'000; ++turn) {
-    const int longest = turn % 100 == 0 ? 900 : 12;
-    std::string text = (pick(0, 3) == 0 ? "-" : "") + digits(pick(1, longest));
-    if (pick(0, 3) != 0) text += "." + digits(pick(0, longest));
-    if (pick(0, 3) == 0) text += (pick(0, 1) == 0 ? "e" : "E-") + std::to_string(pick(0, 330));
-    const double number = readNumber(text);
-    const double wanted = std::strtod(text.c_str(), nullptr);
-    ASSERT_EQ(number, std::isfinite(wanted) ? wanted : std::copysign(largest, wanted)) << text;
-  }
-}
-
 TEST(ReadNumber, GivesBackWhatNumberTextWrites) {
   std::mt19937_64 random(4);
-  for (int turn = 0; turn < 200'000; ++turn) {
+  for (int turn = 0; turn < 50'000; ++turn) {
     const double value = std::bit_cast<double>(random());
     const double ordinary = static_cast<double>(random() % 1'000'000'000) / 10000;
     if (!std::isfinite(value)) continue;

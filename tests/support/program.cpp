@@ -1,19 +1,16 @@
 #include "support/program.h"
 
 #include "app/windows.h"
+#include "support/look.h"
 #include "ui/widgets.h"
 
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
 #include <QDesktopServices>
-#include <QLabel>
 #include <QListView>
 #include <QMessageBox>
 #include <QProcess>
-#include <QPushButton>
-#include <QSlider>
-#include <QUrl>
 
 #ifdef Q_OS_WIN
 #include <windows.h>
@@ -37,28 +34,17 @@ void turnToWindow(QWidget* window) {
 
 }  // namespace
 
-// Takes what the desktop would open in a browser or a mail program.
-class Program::Shell : public QObject {
-  Q_OBJECT
+Shell::Shell() {
+  for (const char* scheme : {"https", "mailto"})
+    QDesktopServices::setUrlHandler(QLatin1String(scheme), this, "take");
+}
 
-public:
-  explicit Shell(QStringList& addresses) : addresses_(addresses) {
-    for (const char* scheme : {"https", "mailto"})
-      QDesktopServices::setUrlHandler(QLatin1String(scheme), this, "take");
-  }
-  ~Shell() override {
-    for (const char* scheme : {"https", "mailto"})
-      QDesktopServices::unsetUrlHandler(QLatin1String(scheme));
-  }
+Shell::~Shell() {
+  for (const char* scheme : {"https", "mailto"})
+    QDesktopServices::unsetUrlHandler(QLatin1String(scheme));
+}
 
-public slots:
-  void take(const QUrl& address) { addresses_ << address.toString(); }
-
-private:
-  QStringList& addresses_;
-};
-
-Program::Program() : shell_(std::make_unique<Shell>(addresses)) {
+Program::Program() {
   app::addWindows(windows, genVar);
   windows.open("fMain");
   turnTo("fMain");
@@ -92,27 +78,27 @@ std::string Program::focused() const {
 }
 
 void Program::click(const std::string& name, Qt::MouseButton button) {
-  auto* target = control(name);
+  const auto* target = control(name);
   QPoint place = target->rect().center();
-  if (qobject_cast<QAbstractButton*>(target) != nullptr) place.setX(std::min(place.x(), 10));
-  clickAt(name, place, button);
+  if (qobject_cast<const QAbstractButton*>(target) != nullptr) place.setX(std::min(place.x(), 10));
+  clickAt(*target, place, button);
 }
 
-void Program::clickAt(const std::string& name, QPoint place, Qt::MouseButton button) {
-  auto* target = control(name);
-  QTest::mouseClick(current_->windowHandle(), button, {}, target->mapTo(target->window(), place));
+void Program::clickAt(const QWidget& target, QPoint place, Qt::MouseButton button) {
+  QTest::mouseClick(current_->windowHandle(), button, {}, target.mapTo(target.window(), place));
   settle();
 }
 
-void Program::press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+void Program::press(QKeyCombination keys) {
   QWindow* target = QGuiApplication::focusWindow();
-  ASSERT_NE(target, nullptr);
-  QTest::keyClick(target, key, modifiers);
+  ASSERT_TRUE(target != nullptr && keys.key() != Qt::Key_unknown);
+  QTest::keyClick(target, keys.key(), keys.keyboardModifiers());
   settle();
 }
 
 void Program::type(const std::string& characters) {
   for (const char c : characters) QTest::keyClick(QGuiApplication::focusWindow(), c);
+  settle();
 }
 
 // Takes the focus there and selects all text.
@@ -131,11 +117,6 @@ void Program::enter(const std::string& field, const std::string& characters) {
   type(characters);
 }
 
-void Program::enterAndConfirm(const std::string& field, const std::string& characters) {
-  enter(field, characters);
-  press(Qt::Key_Return);
-}
-
 void Program::paste(const std::string& field, const std::string& text) {
   QGuiApplication::clipboard()->setText(ui::toQt(text));
   goTo(field)->paste();
@@ -144,29 +125,33 @@ void Program::paste(const std::string& field, const std::string& text) {
 void Program::pick(const std::string& list, int item) {
   auto* box = control<QComboBox>(list);
   constexpr int arrow = 8;  // from the right edge; the rest of an editable list is its text
-  clickAt(list, {box->width() - arrow, box->height() / 2});
+  // For as long as a double click takes, the popup ignores that the button is released.
+  const int usual = QApplication::doubleClickInterval();
+  QApplication::setDoubleClickInterval(1);
+  clickAt(*box, {box->width() - arrow, box->height() / 2}, Qt::LeftButton);
+  QApplication::setDoubleClickInterval(usual);
   auto* view = box->view();
   ASSERT_TRUE(QTest::qWaitForWindowExposed(view->window()));
   const QModelIndex index = view->model()->index(item, 0);
   view->scrollTo(index);
-  const QPoint place = view->visualRect(index).center();
-  QTest::qWait(QApplication::doubleClickInterval() + 50);  // the popup ignores an early release
+  QTest::qWait(20);
   QTest::mouseClick(view->window()->windowHandle(), Qt::LeftButton, {},
-                    view->viewport()->mapTo(view->window(), place));
+                    view->viewport()->mapTo(view->window(), view->visualRect(index).center()));
   settle();
 }
 
 std::string Program::shown(const std::string& name) {
   auto* target = control(name);
-  if (const auto* column = qobject_cast<ui::ResultColumn*>(target)) return column->contents();
-  if (const auto* field = qobject_cast<QLineEdit*>(target)) return ui::fromQt(field->text());
-  if (const auto* list = qobject_cast<QComboBox*>(target)) return ui::fromQt(list->currentText());
-  if (const auto* label = qobject_cast<QLabel*>(target)) return ui::fromQt(label->text());
-  if (const auto* slider = qobject_cast<QSlider*>(target)) return std::to_string(slider->value());
-  if (const auto* button = qobject_cast<QAbstractButton*>(target))
-    return button->isChecked() ? "on" : "off";
-  ADD_FAILURE() << name << " shows no text";
-  return {};
+  EXPECT_TRUE(target->isVisible()) << name;
+  const QString text = textOf(target);
+  if (target->inherits("QAbstractButton")) return text.endsWith("(on)") ? "on" : "off";
+  if (target->inherits("QSlider")) return ui::fromQt(text.section(' ', 0, 0));
+  const auto* column = qobject_cast<ui::ResultColumn*>(target);
+  if (column == nullptr) return ui::fromQt(text);
+  QString lines = ui::toQt(column->contents()).remove('\r');
+  if (lines.endsWith('\n')) lines.chop(1);
+  EXPECT_EQ(text, lines) << name;
+  return column->contents();
 }
 
 QWidget* Program::message() const {
@@ -176,8 +161,14 @@ QWidget* Program::message() const {
 std::string Program::messageShown() const {
   const auto* box = qobject_cast<QMessageBox*>(message());
   if (box == nullptr) return "";
-  const char* kind = box->icon() == QMessageBox::Critical ? "critical, " : "";
-  return kind + ui::fromQt(box->windowTitle() + ": " + box->text());
+  constexpr int frameButtons = 100;
+  EXPECT_GE(box->width(), box->fontMetrics().horizontalAdvance(box->windowTitle()) + frameButtons);
+  QString all = box->windowTitle() + ": " + box->text();
+  if (box->icon() != QMessageBox::Warning)
+    all.prepend(box->icon() == QMessageBox::Critical ? "critical, " : "of another kind, ");
+  for (auto* button : box->buttons())
+    if (box->standardButton(button) != QMessageBox::Ok) all += " [" + button->text() + "]";
+  return ui::fromQt(all);
 }
 
 void Program::confirmMessage() {
@@ -188,7 +179,20 @@ void Program::confirmMessage() {
   turnToWindow(current_);
 }
 
-std::string clipboardSeenByAnotherProgram() {
+// Each window opens at the size that it keeps, but for the rounding at fractional scale factors.
+void EveryWindow::openAll() {
+  all.clear();
+  for (const char* name : windowNames) {
+    windows.open(name);
+    const QSize size = window(name)->size();
+    turnTo(name);
+    const QSize grown = current()->size() - size;
+    EXPECT_LE(std::abs(grown.width()) + std::abs(grown.height()), 2) << name;
+    all.push_back(current());
+  }
+}
+
+std::string clipboardSeen() {
 #ifdef Q_OS_WIN
   if (OpenClipboard(nullptr) == FALSE) return "no clipboard";
   const auto* text = static_cast<const wchar_t*>(GlobalLock(GetClipboardData(CF_UNICODETEXT)));
@@ -196,6 +200,8 @@ std::string clipboardSeenByAnotherProgram() {
   CloseClipboard();
   return ui::fromQt(seen);
 #else
+  if (QGuiApplication::platformName() == "offscreen")
+    return ui::fromQt(QGuiApplication::clipboard()->text());
   QProcess reader;
   reader.start(QStringLiteral("xclip"),
                {QStringLiteral("-selection"), QStringLiteral("clipboard"), QStringLiteral("-o")});
@@ -207,5 +213,3 @@ std::string clipboardSeenByAnotherProgram() {
 }
 
 }  // namespace tarnwick::tests
-
-#include "program.moc"

@@ -5,14 +5,30 @@
 #include "ui/text.h"
 
 #include <QLineEdit>
+#include <QPointer>
 #include <QTest>
-#include <QWidget>
+#include <QUrl>
 #include <gtest/gtest.h>
 
-#include <memory>
+#include <array>
 #include <string>
+#include <vector>
 
 namespace tarnwick::tests {
+
+// Takes what the desktop would open in a browser or a mail program.
+class Shell : public QObject {
+  Q_OBJECT
+
+public:
+  Shell();
+  ~Shell() override;
+
+  QStringList addresses;
+
+public slots:
+  void take(const QUrl& address) { addresses << address.toString(); }
+};
 
 // The program with its launcher open, and a user in front of it: what the user does reaches the
 // windows as mouse and key events, what the user sees is read by object names.
@@ -39,14 +55,11 @@ protected:
   std::string focused() const;
 
   void click(const std::string& control, Qt::MouseButton button = Qt::LeftButton);
-  // Clicks a place of a control given in pixels from its top left corner.
-  void clickAt(const std::string& control, QPoint place, Qt::MouseButton button = Qt::LeftButton);
-  void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
+  void press(QKeyCombination keys);
+  // Types characters; "\r" is the Enter key.
   void type(const std::string& characters);
-  // Goes to an entry field or an editable list, empties it and types a text, without leaving it.
+  // Goes to an entry field or an editable list, empties it and types.
   void enter(const std::string& field, const std::string& characters);
-  // The same, left to the window's validation by the Enter key.
-  void enterAndConfirm(const std::string& field, const std::string& characters);
   // Pastes a text over a field's or an editable list's own as its context menu does.
   void paste(const std::string& field, const std::string& text);
   // Picks an item of a drop-down list, the current one too, by mouse.
@@ -58,24 +71,37 @@ protected:
 
   // The message box that is open, or nothing.
   QWidget* message() const;
-  // The message's title and text in one: "title: text" or, where it shows a fault's picture,
-  // "critical, title: text"; empty when there is no message.
+  // The message's title and text in one: "title: text", which its kind leads where it is no warning
+  // ("critical, title: text") and all buttons but OK follow; empty when there is no message.
   std::string messageShown() const;
   void confirmMessage();
 
   app::GenVar genVar;
   app::WindowSet windows;
-  // The addresses that the desktop was asked to open, in order; none is really opened.
-  QStringList addresses;
+  Shell shell;
 
 private:
-  class Shell;
+  void clickAt(const QWidget& target, QPoint place, Qt::MouseButton button);
   QLineEdit* goTo(const std::string& field);
-  std::unique_ptr<Shell> shell_;
-  QWidget* current_ = nullptr;
+
+  QPointer<QWidget> current_;
 };
 
-// What another program finds on the clipboard: xclip on an X display, Windows itself there.
-std::string clipboardSeenByAnotherProgram();
+inline constexpr std::array windowNames{
+    "fAbout", "fComparator",   "fCustomCharacter", "fEUSART",      "fMain", "fMinADTime",
+    "fPWM",   "fSerinSerout2", "fTimer",           "fTimerHelper", "fUSART"};
+
+// The program with all of its windows open, for what holds for each of them.
+class EveryWindow : public Program {
+protected:
+  EveryWindow() { openAll(); }
+  void openAll();
+
+  std::vector<QWidget*> all;
+};
+
+// What is on the clipboard, as another program finds it (xclip on an X display, Windows itself
+// there); off screen, where there is none, as this one does.
+std::string clipboardSeen();
 
 }  // namespace tarnwick::tests

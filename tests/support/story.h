@@ -17,11 +17,14 @@ struct Story {
 
   std::string name;
   QList<Act> acts;
+  // Why it cannot be told, after the file's name and the line; empty where it can.
+  std::string mistake;
 
   friend void PrintTo(const Story& story, std::ostream* out) { *out << story.name; }
 };
 
-// The stories of all files in a folder, their loops unrolled. A file reads
+// The stories of a file, their loops unrolled; one that cannot be told where the file has a
+// mistake. `verbs` are the first words of acts. A file reads
 //   let {name} TEXT            {name} stands for TEXT from here on
 //   ACT ...                    begins each of the file's stories
 //   == NAME                    begins a story
@@ -30,6 +33,6 @@ struct Story {
 //   for {a} {b} in             the same with a table of values
 //     X ; Y
 //   do ... end
-QList<Story> readStories(const QString& folder);
+QList<Story> readStories(const QString& file, const QString& text, const QStringList& verbs);
 
 }  // namespace tarnwick::tests
