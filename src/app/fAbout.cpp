@@ -2,12 +2,14 @@
 
 #include "common/number_text.h"
 #include "common/product.h"
+#include "ui/describe.h"
 #include "ui/layout.h"
 #include "ui/text.h"
 
 #include <QFrame>
 #include <QIcon>
 
+#include <array>
 #include <string>
 
 namespace tarnwick::app {
@@ -51,7 +53,9 @@ fAbout::fAbout() : Window("fAbout", "About " + std::string(product::title)) {
                                   "popular PIC model.  If you discover any problem,\r\n"
                                   "please contact us.");
   auto* cmdOK = ui::button(this, "cmdOK", "OK");
+  ui::describe(*this, std::to_array<ui::Description>({{"cmdOK", "Closes this window"}}));
   cmdOK->setFocus();
+  closeBy(Qt::Key_Escape);
   connect(cmdOK, &QPushButton::clicked, this, &QWidget::close);
 
   auto* window = ui::grid(this);

@@ -30,19 +30,28 @@ struct LauncherButton {
   std::string_view caption;
   int topTwips;
   std::string_view window;
+  std::string_view question;
 };
 
 // Top to bottom, which is also the tab order.
 constexpr auto launcherButtons = std::to_array<LauncherButton>({
-    {"cTimer", "Timer calc", 200, "fTimer"},
-    {"cTimerHelper", "Timer helper", 560, "fTimerHelper"},
-    {"cUSART", "USART calc", 920, "fUSART"},
-    {"cEUSART", "EUSART calc", 1280, "fEUSART"},
-    {"cSerinSerout2", "SERIN/OUT2", 1635, "fSerinSerout2"},
-    {"cPWM", "PWM calc", 2000, "fPWM"},
-    {"cAD", "A/D Calc", 2360, "fMinADTime"},
-    {"Command1", "Comparator Vref", 2715, "fComparator"},
-    {"cCustomChar", "LCD custom character", 3075, "fCustomCharacter"},
+    {"cTimer", "Timer calc", 200, "fTimer",
+     "How often a timer overflows: its interrupt period and frequency"},
+    {"cTimerHelper", "Timer helper", 560, "fTimerHelper",
+     "Which prescaler and preload give a wanted interrupt period or frequency"},
+    {"cUSART", "USART calc", 920, "fUSART", "Which SPBRG and BRGH give a wanted baud rate"},
+    {"cEUSART", "EUSART calc", 1280, "fEUSART",
+     "Which SPBRG, BRGH and BRG16 give a wanted baud rate"},
+    {"cSerinSerout2", "SERIN/OUT2", 1635, "fSerinSerout2",
+     "Which mode number SERIN2 and SEROUT2 take"},
+    {"cPWM", "PWM calc", 2000, "fPWM",
+     "Which Timer2 settings give a wanted PWM frequency and duty cycle"},
+    {"cAD", "A/D Calc", 2360, "fMinADTime",
+     "Which conversion clock and acquisition time the A/D converter needs"},
+    {"Command1", "Comparator Vref", 2715, "fComparator",
+     "Which voltages the comparator reference makes of the supply"},
+    {"cCustomChar", "LCD custom character", 3075, "fCustomCharacter",
+     "Draws characters of an LCD and writes the PBP text for them"},
 });
 
 constexpr int buttonTwips = 350;  // high
@@ -96,7 +105,9 @@ fMain::fMain(WindowSet& windows, GenVar& genVar)
   // With a font too large for the whole menu to be seen, the launcher grows.
   constexpr int rounding = 2;  // what fractional scale factors may take from a width
   const double menuWidth = menu->sizeHint().width() + rounding;
-  const double scale = std::max(1.0, menuWidth / pictureSize.width());
+  double scale = std::max(1.0, menuWidth / pictureSize.width());
+  constexpr double captionSize = 2 / 3.0;  // of the font's, at least, where the launcher has grown
+  if (scale > 1) scale = std::max(scale, captionSize / room(font(), buttonSize));
   client->setFixedSize(pictureSize * scale);
   layOutPicture(client);
   layOutButtons(client, scale);
@@ -125,8 +136,11 @@ void fMain::layOutButtons(QWidget* client, double scale) {
   for (const LauncherButton& button : launcherButtons) {
     auto* push = ui::button(client, button.control, button.caption);
     push->setFont(font);
+    push->setToolTip(ui::toQt(button.question));
+    push->setAccessibleDescription(push->toolTip());
     push->setGeometry(QRect(QPoint(buttonLeft, ui::fromTwips(button.topTwips)) * scale, size));
-    connect(push, &QPushButton::clicked, this, [this, button] { windows_.open(button.window); });
+    connect(push, &QPushButton::clicked, this,
+            [this, button] { windows_.open(button.window, this); });
   }
 }
 
@@ -137,12 +151,15 @@ QMenuBar* fMain::makeMenu() {
   const auto add = [&](std::string_view name, std::string_view caption, auto command) {
     QAction* action = menu->addAction(ui::toQt(caption), this, command);
     action->setObjectName(ui::toQt(name));
+    return action;
   };
-  add("Exit", "Exit", [this] { close(); });
+  QAction* exit = add("Exit", "Exit", [this] { close(); });
+  exit->setShortcut(Qt::CTRL | Qt::Key_Q);
+  exit->setShortcutContext(Qt::ApplicationShortcut);  // in every window of the program
   add("Visite_our_Website", "Website", [] { OpenWebSite(std::string(product::webSite)); });
   add("Contact_us", "Contact us",
       [] { SendMail(std::string(product::email), std::string(product::name), ""); });
-  add("About", "About", [this] { windows_.open("fAbout"); });
+  add("About", "About", [this] { windows_.open("fAbout", this); });
   return menu;
 }
 

@@ -1,5 +1,10 @@
 #include "app/window_set.h"
 
+#include "ui/placement.h"
+
+#include <QApplication>
+#include <QScreen>
+
 #include <utility>
 
 namespace tarnwick::app {
@@ -12,17 +17,32 @@ void WindowSet::add(std::string name, Load load) {
   entries_[std::move(name)].load = std::move(load);
 }
 
-void WindowSet::open(std::string_view name) {
+void WindowSet::open(std::string_view name, const QWidget* launcher) {
   Entry& entry = entries_.at(std::string(name));
   if (entry.window == nullptr) {
     entry.window = entry.load();
     // The window may be closed from one of its own handlers, which is still to return to it.
     QObject::connect(entry.window, &ui::Window::unloading, entry.window, [&entry] {
-      if (entry.window != nullptr) entry.window->deleteLater();
+      if (entry.window == nullptr) return;
+      entry.place = entry.window->pos();
+      entry.window->deleteLater();
       entry.window = nullptr;
     });
+    if (launcher != nullptr) place(entry, *launcher);
   }
   entry.window->bringForward();
+}
+
+void WindowSet::place(const Entry& entry, const QWidget& launcher) {
+  ui::Window& window = *entry.window;
+  if (entry.place) return window.move(*entry.place);
+  QList<QRect> others;
+  for (const QWidget* other : QApplication::topLevelWidgets())
+    if (other->isVisible()) others << other->frameGeometry();
+  const QSize frame = launcher.frameGeometry().size() - launcher.size();
+  window.move(ui::placeBeside(launcher.frameGeometry(), window.sizeHint() + frame,
+                              launcher.screen()->availableGeometry(), others)
+                  .topLeft());
 }
 
 void WindowSet::unloadAll() {

@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -25,8 +26,10 @@ public:
 
   void add(std::string name, Load load);
 
-  // Loads the window, which was added, unless it is loaded, and shows or brings it forward.
-  void open(std::string_view name);
+  // Loads the window, which was added, unless it is loaded, and shows or brings it forward. A
+  // window that was closed before comes back where it stood; any other is placed beside the
+  // launcher, if one is given.
+  void open(std::string_view name, const QWidget* launcher = nullptr);
   // Closes every window that is loaded, in the alphabetical order of their names; one that is
   // closing already is left to it.
   void unloadAll();
@@ -37,7 +40,9 @@ private:
   struct Entry {
     Load load;
     QPointer<ui::Window> window;
+    std::optional<QPoint> place;  // where it was closed
   };
+  static void place(const Entry& entry, const QWidget& launcher);
   std::map<std::string, Entry, std::less<>> entries_;
 };
 

@@ -81,7 +81,10 @@ TimerWidthShown showWidth(int Max, const TimerGoal& goal) {
   const TimerMatches matches = searchTimer(Max, goal);
   TimerWidthShown shown;
   shown.MatchCount = matches.found.size();
-  for (const TimerMatch& match : matches.found) {
+  shown.exceeded = exceededLimit(Max, goal, matches);
+  for (int line = 0; const TimerMatch& match : matches.found) {
+    if (match.Prescaler == matches.best->Prescaler) shown.bestLine = line;
+    ++line;
     addLine(shown.preload, format(match.Preload, "#####"));
     addLine(shown.prescaler, "1:", numberText(match.Prescaler));
     addLine(shown.calc, formatWithUnit(match.Calc, "####0.0##", unitText(goal.wanted.unit)));
@@ -122,6 +125,13 @@ TimerMatches searchTimer(int Max, const TimerGoal& goal) {
     if (!matches.best || match->Error < matches.best->Error) matches.best = match;
   }
   return matches;
+}
+
+TimerLimit exceededLimit(int Max, const TimerGoal& goal, const TimerMatches& matches) {
+  if (matches.best) return TimerLimit::None;
+  if (goal.Deff <= 0) return TimerLimit::ReloadTime;
+  const double counts = goal.Deff * goal.Fcy / timerPrescalers.back();
+  return counts < Max ? TimerLimit::Tolerance : TimerLimit::Counts;
 }
 
 TimerHelperShown showTimerHelper(TimerHelperInputs inputs) {

@@ -52,10 +52,16 @@ struct TimerMatches {
   std::optional<TimerMatch> best;  // the smallest error; of equal ones the smaller prescaler
 };
 
+// The limit because of which nothing matches: the wanted period is not longer than the reload time;
+// it has more counts than the timer, even with the largest prescaler; no match is close enough.
+enum class TimerLimit { None, ReloadTime, Counts, Tolerance };
+
 // What the window shows of one timer width: the columns that list the matches, one line a match,
 // each ended by CR LF, and the fields of the best one. A preload of 0 is an empty line.
 struct TimerWidthShown {
   std::size_t MatchCount = 0;
+  std::optional<int> bestLine;  // of the columns, counted from 0
+  TimerLimit exceeded = TimerLimit::None;
   std::string preload;
   std::string prescaler;
   std::string calc;
@@ -87,6 +93,10 @@ struct TimerHelperShown {
 // period beyond the range of a double.
 // Source: mid-range family reference manual, Timer0 and Timer1 modules, solved for the preload.
 [[nodiscard]] TimerMatches searchTimer(int Max, const TimerGoal& goal);
+
+// Answers the limit that a goal exceeds for a timer of `Max` counts. A goal that is not a
+// number exceeds the counts.
+[[nodiscard]] TimerLimit exceededLimit(int Max, const TimerGoal& goal, const TimerMatches& matches);
 
 // Answers all that the window shows: the unit and the value moved where they have to, then the
 // matches of both widths.

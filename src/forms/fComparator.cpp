@@ -1,10 +1,11 @@
 #include "forms/fComparator.h"
 
+#include "calc/comparator.h"
 #include "common/product.h"
+#include "forms/descriptions.h"
 #include "ui/layout.h"
+#include "ui/result_look.h"
 #include "ui/text.h"
-
-#include <utility>
 
 namespace tarnwick::forms {
 namespace {
@@ -29,6 +30,7 @@ QLabel* spanLabel(QWidget* parent, std::string_view name) {
 
 fComparator::fComparator() : Window("fComparator", "Comparator Vref") {
   layOut();
+  describe(*this);
   connectEvents();
   Form_Load();
 }
@@ -59,8 +61,8 @@ void fComparator::layOut() {
   ui::nameAfter(Text1, "CVR<3:0>");
   ui::nameAfter(tVref, "Vref (Volt)");
   auto* results = ui::grid(fResults);
-  results->addWidget(ui::label(fResults, "tlabel(0)", "CVR<3:0>"), 0, 0);
-  results->addWidget(ui::label(fResults, "tlabel(1)", "Vref (Volt)"), 0, 1);
+  results->addWidget(ui::label(fResults, "tlabel(0)", "CVR<3:0>"), 0, 0, Qt::AlignRight);
+  results->addWidget(ui::label(fResults, "tlabel(1)", "Vref (Volt)"), 0, 1, Qt::AlignRight);
   results->addWidget(Text1, 1, 0);
   results->addWidget(tVref, 1, 1);
 
@@ -69,6 +71,7 @@ void fComparator::layOut() {
   window->addWidget(fVrefRange, 1, 0);
   window->addWidget(fResults, 0, 1, 3, 1);
   window->setRowStretch(2, 1);
+  ui::dimWhileEdited(tVdd, tVref, {tLabelLowRange, tLabelHighRange});
   ui::fixToContent(this);
 }
 
@@ -85,23 +88,18 @@ void fComparator::Form_Load() {
 }
 
 void fComparator::CalcVref() {
-  show(calc::showComparator(inputs()));
-}
-
-calc::ComparatorInputs fComparator::inputs() const {
-  return {.vdd = tVdd->number(), .range = static_cast<calc::VrefRange>(oVrefRange->selected())};
-}
-
-void fComparator::show(calc::ComparatorShown shown) {
-  shown_ = std::move(shown);
-  tLabelLowRange->setText(ui::toQt(shown_.lowRange));
-  tLabelHighRange->setText(ui::toQt(shown_.highRange));
-  tVref->setContents(shown_.vref);
+  const calc::ComparatorShown shown = calc::showComparator(
+      {.vdd = tVdd->number(), .range = static_cast<calc::VrefRange>(oVrefRange->selected())});
+  tLabelLowRange->setText(ui::toQt(shown.lowRange));
+  tLabelHighRange->setText(ui::toQt(shown.highRange));
+  tVref->setContents(shown.vref);
 }
 
 void fComparator::tVdd_Validate() {
-  show(calc::next(shown_, inputs()));
-  if (calc::isValidVdd(tVdd->number())) return;
+  if (calc::isValidVdd(tVdd->number())) {
+    CalcVref();
+    return;
+  }
   showMessage(QMessageBox::Critical, common::product::title, "Invalid Vdd");
   VddPointTyped = false;
   tVdd->setFocus();

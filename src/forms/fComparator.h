@@ -1,6 +1,5 @@
 #pragma once
 
-#include "calc/comparator.h"
 #include "ui/entry_field.h"
 #include "ui/widgets.h"
 
@@ -18,8 +17,6 @@ private:
 
   // Reads supply and range and rewrites both range labels and the column of voltages.
   void CalcVref();
-  [[nodiscard]] calc::ComparatorInputs inputs() const;
-  void show(calc::ComparatorShown shown);
 
   void tVdd_Validate();
 
@@ -30,7 +27,6 @@ private:
   ui::ResultColumn* Text1;
   ui::ResultColumn* tVref;
 
-  calc::ComparatorShown shown_;
   bool VddPointTyped = false;
 };
 

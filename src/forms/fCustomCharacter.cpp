@@ -1,7 +1,9 @@
 #include "forms/fCustomCharacter.h"
 
 #include "common/number_text.h"
+#include "forms/descriptions.h"
 #include "ui/desktop.h"
+#include "ui/keys.h"
 #include "ui/layout.h"
 #include "ui/text.h"
 #include "ui/twips.h"
@@ -30,6 +32,7 @@ fCustomCharacter::fCustomCharacter(calc::CharacterSet& characters)
       settings_(this),
       characters_(characters) {
   layOut();
+  describe(*this);
   connectEditor();
   Form_Load();
 }
@@ -51,8 +54,7 @@ QWidget* fCustomCharacter::layOutSlots() {
         new ui::PixelPicture(parent, "Char" + number, {.off = ui::pixelOff, .bordered = true});
     slot.tChar = new ui::ResultField(parent, ui::indexed("tChar", i), widestData);
     slot.tChar->setFrame(false);
-    ui::useFixedPitch(*slot.tChar);
-    ui::fitWidth(*slot.tChar, widestData);
+    slot.tChar->setAlignment(Qt::AlignLeft);
     slot.tName = ui::textField(parent, ui::indexed("tName", i), nameLength);
     slot.tConstant = ui::textField(parent, ui::indexed("tConstant", i), nameLength);
 
@@ -119,6 +121,7 @@ QWidget* fCustomCharacter::layOutResults() {
   cDeleteChar = ui::button(group, "cDeleteChar", "Delete selected character");
   cDeletedAll = ui::button(group, "cDeletedAll", "Delete all");
   cCopyClip = ui::button(group, "cCopyClip", "Copy results to clipboard");
+  ui::clickBy(*cCopyClip, Qt::ALT | Qt::Key_C);
   cInclude = ui::checkBox(group, "cInclude", "Include LCD Defines");
   auto* results = ui::grid(group);
   for (int row = 0; QWidget * control :

@@ -1,8 +1,11 @@
 #include "forms/fEUSART.h"
 
 #include "calc/serial_text.h"
+#include "forms/descriptions.h"
 #include "ui/desktop.h"
+#include "ui/keys.h"
 #include "ui/layout.h"
+#include "ui/result_look.h"
 
 #include <QHBoxLayout>
 
@@ -21,6 +24,7 @@ fEUSART::fEUSART(common::OscillatorSetting& oscillator)
     : Window("fEUSART", "EUSART Calc"),
       inputs_(this, oscillator, unlimited, [this] { CalcEUSART(); }) {
   layOut();
+  describe(*this);
   connectEvents();
   Form_Load();
 }
@@ -35,7 +39,7 @@ void fEUSART::layOut() {
       rateTable(this, "fResults", "Results BRG16=0", false, {"tSPBRG0", "tCalcBaud0", "tERR0"},
                 {"tSPBRG1", "tCalcBaud1", "tERR1"});
   auto* fBestMatch = matchGroup(
-      table.group, "fBestMatch", "Best match",
+      table.group, "fBestMatch", "Best match", ui::Weight::Answer,
       {{&best_.err, "trERR", "Error % :"}, {&best_.calcBaud, "trCalcBaud", "Calc baud :"}},
       {{&best_.spbrg, "trSPBRG", "SPBRG :"}, {&trSPBRGH, "trSPBRGH", "BRGH :"}});
   table.grid->addWidget(fBestMatch, 3, 0, 1, -1);
@@ -45,7 +49,7 @@ void fEUSART::layOut() {
                                       {"tSPBRG16_0", "tCalcBaud16_0", "tERR16_0"},
                                       {"tSPBRG16_1", "tCalcBaud16_1", "tERR16_1"});
   auto* fBestMatch16 = matchGroup(
-      table16.group, "fBestMatch16", "Best match",
+      table16.group, "fBestMatch16", "Best match", ui::Weight::Answer,
       {{&best16_.err, "trERR16", "Error % :"}, {&best16_.calcBaud, "trCalcBaud16", "Calc baud :"}},
       {{&best16_.spbrg, "trSPBRG16(0)", "SPBRG :"},
        {&best16_.spbrgh, "trSPBRG16(1)", "SPBRGH :"},
@@ -56,7 +60,7 @@ void fEUSART::layOut() {
   rows_ = {table.brgh0, table.brgh1, table16.brgh0, table16.brgh1};
 
   auto* fFinal = matchGroup(
-      this, "fFinal", "Final best match",
+      this, "fFinal", "Final best match", ui::Weight::FinalAnswer,
       {{&final_.err, "tfERR", "Error % :"}, {&final_.calcBaud, "tfCalcBaud", "Calc baud :"}},
       {{&final_.spbrg, "tfSPBRG", "SPBRG :"},
        {&final_.spbrgh, "TSPBRGH", "SPBRGH :"},
@@ -64,6 +68,8 @@ void fEUSART::layOut() {
        {&tfBRG16, "tfBRG16", "BRG16 :"}});
   cCopyRegister = ui::button(this, "cCopyRegister", "Copy register settings to clipboard");
   CopyClip = ui::button(this, "CopyClip", "Copy PBP DEFINEs to clipboard");
+  ui::clickBy(*cCopyRegister, Qt::ALT | Qt::Key_R);
+  ui::clickBy(*CopyClip, Qt::ALT | Qt::Key_C);
 
   auto* inputs = new QHBoxLayout;
   for (QGroupBox* group :
@@ -78,6 +84,8 @@ void fEUSART::layOut() {
   window->addWidget(cCopyRegister, 2, 1);
   window->addWidget(CopyClip, 3, 1);
   window->setRowStretch(4, 1);
+  for (ui::EntryField* field : {inputs_.fOSC, inputs_.BaudRate})
+    ui::dimWhileEdited(field, rows_[0].spbrg, ui::resultsOf(*this));
   ui::fixToContent(this);
 }
 

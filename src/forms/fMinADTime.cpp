@@ -1,8 +1,13 @@
 #include "forms/fMinADTime.h"
 
+#include "forms/descriptions.h"
 #include "forms/oscillator_field.h"
 #include "ui/desktop.h"
+#include "ui/keys.h"
 #include "ui/layout.h"
+#include "ui/result_look.h"
+
+#include <string_view>
 
 namespace tarnwick::forms {
 namespace {
@@ -11,12 +16,14 @@ using calc::AdcResolution;
 
 constexpr int bits8 = static_cast<int>(AdcResolution::Bits8);  // oADCBits indices
 constexpr int bits10 = static_cast<int>(AdcResolution::Bits10);
+constexpr std::string_view widestResult = "Fosc/64 (ADCS=110)";
 
 }  // namespace
 
 fMinADTime::fMinADTime(common::OscillatorSetting& oscillator)
     : Window("fMinADTime", "A/D Calc"), oscillator_(oscillator) {
   layOut();
+  describe(*this);
   connectEvents();
   Form_Load();
 }
@@ -45,14 +52,15 @@ void fMinADTime::layOut() {
 
   auto* fResults = ui::group(this, "fResults", "Results");
   auto* results = ui::grid(fResults);
-  tADClock = new ui::ResultField(fResults, "tADClock", "Fosc/64 (ADCS=110)");
-  tMinTad = new ui::ResultField(fResults, "tMinTad", "64 Tad");
-  tMinTaq = new ui::ResultField(fResults, "tMinTaq", "0000000000 uSec");
+  tADClock = new ui::ResultField(fResults, "tADClock", widestResult, ui::Weight::Answer);
+  tMinTad = new ui::ResultField(fResults, "tMinTad", widestResult, ui::Weight::Answer);
+  tMinTaq = new ui::ResultField(fResults, "tMinTaq", widestResult, ui::Weight::Answer);
   ui::labelledRow(results, "tlabel(0)", "A/D conversion clock (ADCS)  :", tADClock);
   ui::labelledRow(results, "tlabel(1)", "A/D acquistion time (ACQT) :", tMinTad);
   ui::labelledRow(results, "tlabel(2)", "Min acquisition time :", tMinTaq);
 
   cCopyClip = ui::button(this, "cCopyClip", "Copy PBP DEFINEs to clipboard");
+  ui::clickBy(*cCopyClip, Qt::ALT | Qt::Key_C);
 
   auto* window = ui::grid(this);
   window->addWidget(fOSC, 0, 0);
@@ -60,6 +68,8 @@ void fMinADTime::layOut() {
   window->addWidget(fADCBits, 0, 2);
   window->addWidget(fResults, 1, 0, 1, 3);
   window->addWidget(cCopyClip, 2, 0, 1, 3, Qt::AlignRight);
+  ui::dimWhileEdited(tOSC, tADClock, {tMinTad});
+  ui::dimWhileEdited(tImpedance, tMinTaq, {tMinTad});
   ui::fixToContent(this);
 }
 

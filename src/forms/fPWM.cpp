@@ -2,8 +2,10 @@
 
 #include "common/number_text.h"
 #include "common/rounding.h"
+#include "forms/descriptions.h"
 #include "forms/oscillator_field.h"
 #include "ui/layout.h"
+#include "ui/result_look.h"
 
 #include <utility>
 
@@ -19,6 +21,7 @@ constexpr int lines = static_cast<int>(calc::pwmPrescalers.size());
 fPWM::fPWM(common::OscillatorSetting& oscillator)
     : Window("fPWM", "PWM Calc"), oscillator_(oscillator) {
   layOut();
+  describe(*this);
   connectEvents();
   Form_Load();
 }
@@ -43,8 +46,8 @@ void fPWM::layOut() {
   auto* limits = ui::grid(nullptr);
   limits->setContentsMargins(0, 0, 0, 0);
   frequency->addLayout(limits, 0, 0);
-  tMinFreq = new ui::ResultField(Frame3, "tMinFreq", "0000000.000 KHz");
-  tMaxFreq = new ui::ResultField(Frame3, "tMaxFreq", "0000000.000 MHz");
+  tMinFreq = new ui::ResultField(Frame3, "tMinFreq", "0000.000 KHz");
+  tMaxFreq = new ui::ResultField(Frame3, "tMaxFreq", "0000.000 KHz");
   ui::labelledRow(limits, "Label1(0)", "Min :", tMinFreq);
   ui::labelledRow(limits, "Label1(1)", "Max :", tMaxFreq);
   tFreq = new ui::EntryField(Frame3, "tFreq",
@@ -58,11 +61,13 @@ void fPWM::layOut() {
 
   auto* Frame4 = ui::group(this, "Frame4", "Possible match");
   auto* matches = ui::grid(Frame4);
-  tCalc = ui::headedColumn(matches, "tCalc", "Calc. freq.", " 00000000.000 KHz", lines);
+  tCalc = ui::headedColumn(matches, "tCalc", "Calc. freq.", " 00000000.0 KHz", lines);
   tPrescaler = ui::headedColumn(matches, "tPrescaler", "Prescaler", "1:16", lines);
   tResolution = ui::headedColumn(matches, "tResolution", "Resolution", "10 Bit", lines);
   trMaxPR2 = ui::headedColumn(matches, "trMaxPR2", "Max Duty val.", "1024", lines);
   trDutyStep = ui::headedColumn(matches, "trDutyStep", "Duty step (%)", "00.000 %", lines);
+
+  ui::packTopLeft(matches);
 
   auto* Frame5 = ui::group(this, "Frame5", "Results");
   auto* results = ui::grid(Frame5);
@@ -70,6 +75,9 @@ void fPWM::layOut() {
   tPR2 = ui::headedColumn(results, "tPR2", "PR2", "  255", lines);
   tDecimal = ui::headedColumn(results, "tDecimal", "Duty register", "1024", lines);
   tCalcDuty = ui::headedColumn(results, "tCalcDuty", "Calc. duty", "100.00 %", lines);
+  ui::packTopLeft(results);
+  for (ui::ResultColumn* answer : {tPrescaler2, tPR2, tDecimal, tCalcDuty})
+    ui::weigh(*answer, ui::Weight::Answer);
 
   auto* window = ui::grid(this);
   window->addWidget(Frame1, 0, 0);
@@ -77,6 +85,14 @@ void fPWM::layOut() {
   window->addWidget(Frame3, 1, 0, 1, 2);
   window->addWidget(Frame4, 2, 0, 1, 2);
   window->addWidget(Frame5, 3, 0, 1, 2);
+  // Leaving the oscillator leads to the frequency, so the Tab key comes to the duty cycle after it.
+  setTabOrder(oHzKhz->button(inKHz), tDuty);
+  setTabOrder(tDuty, scrollduty);
+  ui::dimWhileEdited(tOSC, tMinFreq, ui::resultsOf(*this));
+  ui::dimWhileEdited(
+      tFreq, tCalc,
+      {tPrescaler, tResolution, trMaxPR2, trDutyStep, tPrescaler2, tPR2, tDecimal, tCalcDuty});
+  ui::dimWhileEdited(tDuty, tDecimal, {tCalcDuty});
   ui::fixToContent(this);
 }
 
@@ -124,6 +140,9 @@ void fPWM::rewriteResults() {
   tPR2->setContents(shown_.PR2);
   showDuty();
   enableDuty(shown_.matches.MatchCount > 0);
+  const bool none = shown_.matches.MatchCount == 0;
+  ui::showExceeded(*tMinFreq, none && !shown_.matches.aboveRange);
+  ui::showExceeded(*tMaxFreq, none && shown_.matches.aboveRange);
 }
 
 void fPWM::CalcDuty() {

@@ -1,7 +1,10 @@
 #include "forms/fSerinSerout2.h"
 
+#include "forms/descriptions.h"
 #include "ui/desktop.h"
+#include "ui/keys.h"
 #include "ui/layout.h"
+#include "ui/result_look.h"
 #include "ui/twips.h"
 
 #include <algorithm>
@@ -36,6 +39,7 @@ fSerinSerout2::fSerinSerout2()
               BaudControls::Choice::UnitFirst, [this] { CalcMode(); }),
       tBaud(inputs_.field) {
   layOut();
+  describe(*this);
   connectEvents();
   Form_Load();
 }
@@ -67,6 +71,7 @@ void fSerinSerout2::layOut() {
   window->addWidget(fConversion, 1, 1);
   window->addWidget(fParity, 1, 2);
   window->addWidget(fResults, 2, 0, 1, 3);
+  ui::dimWhileEdited(tBaud, tMode);
   ui::fixToContent(this);
 }
 
@@ -74,10 +79,11 @@ void fSerinSerout2::layOut() {
 void fSerinSerout2::layOutResults() {
   fResults = ui::group(this, "fResults", "Results");
   tLabel = ui::label(fResults, "tLabel", "Mode :");
-  tMode = new ui::ResultField(fResults, "tMode", "000000");
+  tMode = new ui::ResultField(fResults, "tMode", "000000", ui::Weight::Answer);
   tLabel->setBuddy(tMode);
   ui::nameAfter(tMode, "Mode");
   cCopyClip = ui::button(fResults, "cCopyClip", "Copy the additional PBP DEFINE to clipboard");
+  ui::clickBy(*cCopyClip, Qt::ALT | Qt::Key_C);
 
   constexpr int gap = 8;
   const int top = fResults->contentsMargins().top() + gap;

@@ -3,22 +3,27 @@
 #include "calc/timer.h"
 #include "common/number_text.h"
 #include "common/rounding.h"
+#include "forms/descriptions.h"
 #include "forms/oscillator_field.h"
 #include "ui/layout.h"
+#include "ui/result_look.h"
 
 #include <cstddef>
+#include <string_view>
 
 namespace tarnwick::forms {
 namespace {
 
 constexpr int bits8 = 1;  // oType indices
 constexpr int bits16 = 2;
+constexpr std::string_view widestResult = "00000.0000 mSec";
 
 }  // namespace
 
 fTimer::fTimer(common::OscillatorSetting& oscillator)
     : Window("fTimer", "Timer calc"), oscillator_(oscillator) {
   layOut();
+  describe(*this);
   connectEvents();
   Form_Load();
 }
@@ -59,14 +64,15 @@ void fTimer::layOut() {
 
   auto* fResults = ui::group(this, "fResults", "Results");
   auto* results = ui::grid(fResults);
-  tFosc = new ui::ResultField(fResults, "tFosc", "0000000.0000 MHz");
-  tTicks = new ui::ResultField(fResults, "tTicks", "0000000.0000 uSec");
-  tResults = new ui::ResultField(fResults, "tResults", "0000000.0000 mSec");
-  tFreq = new ui::ResultField(fResults, "tFreq", "0000000.000 KHz");
+  tFosc = new ui::ResultField(fResults, "tFosc", widestResult);
+  tTicks = new ui::ResultField(fResults, "tTicks", widestResult);
+  tResults = new ui::ResultField(fResults, "tResults", widestResult, ui::Weight::Answer);
+  tFreq = new ui::ResultField(fResults, "tFreq", widestResult, ui::Weight::Answer);
   ui::labelledRow(results, "Text3(0)", "Fosc :", tFosc);  // shows Fosc / 4; the label is contract
   ui::labelledRow(results, "Text3(1)", "Ticks :", tTicks);
   ui::labelledRow(results, "Text3(2)", "Interrupt each :", tResults);
   ui::labelledRow(results, "Text3(3)", "Frequency :", tFreq);
+  ui::packTopLeft(results);
 
   auto* window = ui::grid(this);
   window->addWidget(fOSC, 0, 0);
@@ -75,6 +81,8 @@ void fTimer::layOut() {
   window->addWidget(fPreLoad, 2, 0, 1, 2);
   window->addWidget(Frame1, 3, 0, 1, 2);
   window->addWidget(fResults, 4, 0, 1, 2);
+  ui::dimWhileEdited(tOSC, tFosc, ui::resultsOf(*this));
+  for (ui::EntryField* field : {tPreLoad, tReload}) ui::dimWhileEdited(field, tResults, {tFreq});
   ui::fixToContent(this);
 }
 

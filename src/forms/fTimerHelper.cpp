@@ -2,8 +2,10 @@
 
 #include "common/number_text.h"
 #include "common/rounding.h"
+#include "forms/descriptions.h"
 #include "forms/oscillator_field.h"
 #include "ui/layout.h"
+#include "ui/result_look.h"
 #include "ui/text.h"
 
 #include <QHBoxLayout>
@@ -17,7 +19,7 @@ namespace {
 
 constexpr int lines = static_cast<int>(calc::timerPrescalers.size());
 constexpr std::string_view widestPreload = "65535";
-constexpr std::string_view widestCalc = "0000000000.000 uSec";
+constexpr std::string_view widestCalc = "00000.000 uSec";
 
 // Selects a unit without the click step, which would recalculate.
 void selectQuietly(ui::OptionGroup& units, calc::DelayUnit unit) {
@@ -32,13 +34,15 @@ void addColumns(QGroupBox* frame, const std::string& width, WidthResults& result
   results.tPrescaler = ui::headedColumn(grid, "tPrescaler" + width, "Prescaler", "1:256", lines);
   results.tCalc = ui::headedColumn(grid, "tCalc" + width, "Calc", widestCalc, lines);
   results.tERR = ui::headedColumn(grid, "tERR" + width, "Error %", "00.000 %", lines);
+  ui::packTopLeft(grid);
 }
 
 // Makes the fields of the best match of one width.
 void addBest(QGroupBox* frame, const std::string& width, WidthResults& results) {
-  results.tfPreload = new ui::ResultField(frame, "tfPreload" + width, "000000");
-  results.tfPrescaler = new ui::ResultField(frame, "tfPrescaler" + width, "000000");
-  results.tfERR = new ui::ResultField(frame, "tfERR" + width, "00.000");
+  results.tfPreload = new ui::ResultField(frame, "tfPreload" + width, "000000", ui::Weight::Answer);
+  results.tfPrescaler =
+      new ui::ResultField(frame, "tfPrescaler" + width, "000000", ui::Weight::Answer);
+  results.tfERR = new ui::ResultField(frame, "tfERR" + width, "000000", ui::Weight::Answer);
 }
 
 // Lays out the best match of one width: a caption and the three fields below it.
@@ -53,6 +57,7 @@ void layOutBest(QHBoxLayout* bests, std::string_view width, const WidthResults& 
   ui::labelledRow(best, "Error" + suffix, "Error % :", results.tfERR);
   for (QWidget* field : {results.tfPreload, results.tfPrescaler, results.tfERR})
     ui::nameAfter(field, std::string(width) + ", " + ui::fromQt(field->accessibleName()));
+  ui::packTopLeft(best);
 }
 
 }  // namespace
@@ -60,6 +65,7 @@ void layOutBest(QHBoxLayout* bests, std::string_view width, const WidthResults& 
 fTimerHelper::fTimerHelper(common::OscillatorSetting& oscillator)
     : Window("fTimerHelper", "Timer helper"), oscillator_(oscillator) {
   layOut();
+  describe(*this);
   connectEvents();
   Form_Load();
 }
@@ -76,14 +82,14 @@ void fTimerHelper::layOut() {
                               {.keys = common::decimalKey,
                                .pointTyped = &DelayPointTyped,
                                .clearsPointOnEntering = true,
-                               .widest = "0000.00000000000"});
+                               .widest = "000000.00000"});
   omSecuSec = new ui::OptionGroup(FrameDelay, "omSecuSec");
   ui::row(FrameDelay, {tDelay, omSecuSec->add(0, "uSec"), omSecuSec->add(1, "mSec"),
                        omSecuSec->add(2, "Hz"), omSecuSec->add(3, "KHz")});
   omSecuSec->select(0);
 
   auto* Frame2 = ui::group(this, "Frame2", "Reload (instr. cycle)");
-  tReload = new ui::EntryField(Frame2, "tReload", {.widest = "000000"});
+  tReload = new ui::EntryField(Frame2, "tReload", {.widest = "0000"});
   HScroll1 = new ui::Slider(Frame2, "HScroll1", 1, 15);
   ui::nameAfter(HScroll1, "Reload slider");
   ui::row(Frame2, {tReload, HScroll1});
@@ -111,6 +117,8 @@ void fTimerHelper::layOut() {
   widths->addWidget(Frame3);
   widths->addWidget(Frame1);
   window->addWidget(Frame4, 2, 0, 1, 3);
+  for (ui::EntryField* field : {tOSC, tDelay, tReload})
+    ui::dimWhileEdited(field, results8_.tPreload, ui::resultsOf(*this));
   ui::fixToContent(this);
 }
 
@@ -147,10 +155,13 @@ void fTimerHelper::Calculate(int Max) {
   const calc::TimerWidthShown& shown = is8Bit ? shown_.width8 : shown_.width16;
   const WidthResults& results = is8Bit ? results8_ : results16_;
   MatchCount = shown.MatchCount;
-  results.tPreload->setContents(shown.preload);
-  results.tPrescaler->setContents(shown.prescaler);
-  results.tCalc->setContents(shown.calc);
-  results.tERR->setContents(shown.error);
+  results.tPreload->setContents(shown.preload, shown.bestLine);
+  results.tPrescaler->setContents(shown.prescaler, shown.bestLine);
+  results.tCalc->setContents(shown.calc, shown.bestLine);
+  results.tERR->setContents(shown.error, shown.bestLine);
+  ui::showExceeded(*results.tPreload, shown.exceeded == calc::TimerLimit::Counts);
+  ui::showExceeded(*results.tERR, shown.exceeded == calc::TimerLimit::Tolerance);
+  ui::showExceeded(*tReload, shown.exceeded == calc::TimerLimit::ReloadTime);
   results.tfPreload->setContents(shown.bestPreload);
   results.tfPrescaler->setContents(shown.bestPrescaler);
   results.tfERR->setContents(shown.bestError);

@@ -1,8 +1,11 @@
 #include "forms/fUSART.h"
 
 #include "calc/serial_text.h"
+#include "forms/descriptions.h"
 #include "ui/desktop.h"
+#include "ui/keys.h"
 #include "ui/layout.h"
+#include "ui/result_look.h"
 
 #include <utility>
 
@@ -11,6 +14,7 @@ namespace tarnwick::forms {
 fUSART::fUSART(common::OscillatorSetting& oscillator)
     : Window("fUSART", "USART Calc"), inputs_(this, oscillator, 8, [this] { CalcUSART(); }) {
   layOut();
+  describe(*this);
   connectEvents();
   Form_Load();
 }
@@ -25,11 +29,13 @@ void fUSART::layOut() {
   ui::packTopLeft(table.grid);
 
   auto* fBestMatch = matchGroup(
-      this, "fBestMatch", "Best match",
+      this, "fBestMatch", "Best match", ui::Weight::Answer,
       {{&best_.err, "trERR", "Error % :"}, {&best_.calcBaud, "trCalcBaud", "Calc Baud :"}},
       {{&best_.spbrg, "trSPBRG", "SPBRG :"}, {&trSPBRGH, "trSPBRGH", "BRGH :"}});
   cCopyRegister = ui::button(this, "cCopyRegister", "Copy register settings to clipboard");
   CopyClip = ui::button(this, "CopyClip", "Copy PBP DEFINEs to clipboard");
+  ui::clickBy(*cCopyRegister, Qt::ALT | Qt::Key_R);
+  ui::clickBy(*CopyClip, Qt::ALT | Qt::Key_C);
 
   auto* window = ui::grid(this);
   window->addWidget(inputs_.oscGroup, 0, 0);
@@ -40,6 +46,8 @@ void fUSART::layOut() {
   window->addWidget(cCopyRegister, 2, 2);
   window->addWidget(CopyClip, 3, 2);
   window->setRowStretch(4, 1);
+  for (ui::EntryField* field : {inputs_.fOSC, inputs_.BaudRate})
+    ui::dimWhileEdited(field, row0_.spbrg, ui::resultsOf(*this));
   ui::fixToContent(this);
 }
 

@@ -7,7 +7,7 @@ namespace {
 
 constexpr std::string_view widestSpbrg = "00000";
 constexpr std::string_view widestBaud = "0000.000 K";
-constexpr std::string_view widestError = "00000000000000.0%";  // 1E-7 Bd at 64 MHz
+constexpr std::string_view widestError = "-000000.0%";
 
 // Adds fields and captions to a table column by column.
 class RowBuilder {
@@ -19,7 +19,6 @@ public:
 
   ui::ResultField* add(std::string_view name, std::string_view column, std::string_view widest) {
     auto* field = new ui::ResultField(table_.group, name, widest);
-    ui::alignInColumn(*field, widest);
     ui::nameAfter(field, std::string(caption_) + ", " + std::string(column));
     table_.grid->addWidget(field, row_, ++column_);
     if (row_ == 1) addHeading(column);
@@ -29,7 +28,7 @@ public:
 private:
   void addHeading(std::string_view column) {
     auto* heading = ui::label(table_.group, "l" + std::string(column), column);
-    table_.grid->addWidget(heading, 0, column_, Qt::AlignHCenter);
+    table_.grid->addWidget(heading, 0, column_, Qt::AlignRight);
   }
 
   const RateTable& table_;
@@ -39,14 +38,13 @@ private:
 };
 
 // Adds labelled fields, one below the other, at the right end of the grid.
-void addSide(QGroupBox* group, QGridLayout* sides, std::string_view widest,
+void addSide(QGroupBox* group, QGridLayout* sides, ui::Weight weight, std::string_view widest,
              std::initializer_list<MatchField> fields) {
   auto* side = ui::grid(nullptr);
   side->setContentsMargins(0, 0, 0, 0);
   sides->addLayout(side, 0, sides->columnCount(), Qt::AlignTop);
   for (const MatchField& match : fields) {
-    *match.field = new ui::ResultField(group, match.name, widest);
-    ui::alignInColumn(**match.field, widest);
+    *match.field = new ui::ResultField(group, match.name, widest, weight);
     ui::labelledRow(side, "l" + std::string(match.name), match.label, *match.field);
   }
 }
@@ -83,13 +81,13 @@ RateTable rateTable(QWidget* parent, std::string_view name, std::string_view cap
 }
 
 QGroupBox* matchGroup(QWidget* parent, std::string_view name, std::string_view caption,
-                      std::initializer_list<MatchField> rate,
+                      ui::Weight weight, std::initializer_list<MatchField> rate,
                       std::initializer_list<MatchField> registers) {
   auto* group = ui::group(parent, name, caption);
   auto* sides = ui::grid(group);
   sides->setHorizontalSpacing(2 * sides->horizontalSpacing());
-  addSide(group, sides, widestError, rate);
-  addSide(group, sides, widestSpbrg, registers);
+  addSide(group, sides, weight, widestError, rate);
+  addSide(group, sides, weight, widestSpbrg, registers);
   ui::packTopLeft(sides);
   return group;
 }

@@ -45,10 +45,10 @@ struct MatchField {
   std::string_view label;
 };
 
-// Makes the fields of a best match in a group of their own: error and rate on its left side, the
-// registers on its right.
+// Makes the fields of a best match, of this weight, in a group of their own: error and rate on its
+// left side, the registers on its right.
 [[nodiscard]] QGroupBox* matchGroup(QWidget* parent, std::string_view name,
-                                    std::string_view caption,
+                                    std::string_view caption, ui::Weight weight,
                                     std::initializer_list<MatchField> rate,
                                     std::initializer_list<MatchField> registers);
 

@@ -1,5 +1,6 @@
 #include "ui/accessible.h"
 
+#include "ui/keys.h"
 #include "ui/lcd_panel.h"
 #include "ui/pixels.h"
 #include "ui/window.h"
@@ -17,17 +18,16 @@ QAccessible::Role roleOf(const QAbstractButton& button) {
                                                     : QAccessible::CheckBox;
 }
 
-bool showsMessage(const QWidget& window) {
-  const auto* message = window.findChild<QMessageBox*>();
-  return message != nullptr && message->isVisible();
-}
-
-// A button on which an assistive tool's press or toggle is a click: the button takes the focus, so
-// that the field which had it is validated, and acts unless that brought up a message.
+// A button on which an assistive tool's press or toggle is a click, and which tells its keys.
 class ClickableButton : public QAccessibleWidget {
 public:
   explicit ClickableButton(QAbstractButton& button)
       : QAccessibleWidget(&button, roleOf(button)), button_(button) {}
+
+  QString text(QAccessible::Text kind) const override {
+    if (kind == QAccessible::Accelerator) return keysOf(button_).toString(QKeySequence::NativeText);
+    return QAccessibleWidget::text(kind);
+  }
 
   QAccessible::State state() const override {
     QAccessible::State state = QAccessibleWidget::state();
@@ -45,9 +45,7 @@ public:
 
   void doAction(const QString& name) override {
     if (name != click()) return QAccessibleWidget::doAction(name);
-    if (!button_.isEnabled() || showsMessage(*button_.window())) return;
-    button_.setFocus(Qt::MouseFocusReason);
-    if (!showsMessage(*button_.window())) button_.click();
+    clickFromElsewhere(button_);
   }
 
 private:

@@ -4,8 +4,14 @@
 #include "ui/text.h"
 #include "ui/widgets.h"
 
+#include <QApplication>
+#include <QContextMenuEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QMenu>
+#include <QMouseEvent>
+
+#include <algorithm>
 
 namespace tarnwick::ui {
 namespace {
@@ -51,6 +57,9 @@ EntryField::EntryField(QWidget* parent, std::string_view name, const EntryFieldT
   fitWidth(*this, traits.widest);
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   if (const auto* group = qobject_cast<QGroupBox*>(parent)) setAccessibleName(group->title());
+  connect(this, &QLineEdit::textChanged, this, [this] {
+    if (!writing_) emit edited();
+  });
 }
 
 double EntryField::number() const {
@@ -62,7 +71,10 @@ std::string EntryField::contents() const {
 }
 
 void EntryField::setContents(std::string_view text) {
+  writing_ = true;
   setText(toQt(text));
+  writing_ = false;
+  if (isCurrent()) selectAll();
 }
 
 QSize EntryField::sizeHint() const {
@@ -72,9 +84,12 @@ QSize EntryField::sizeHint() const {
 void EntryField::focusEntered() {
   if (clearsPointOnEntering_) *pointTyped_ = false;
   emit focusGained();
+  visit_ = Visit::Fresh;
+  selectAll();
 }
 
 void EntryField::focusLeft() {
+  visit_ = Visit::None;
   emit validate();
   if (validatesOnFocusLost_) emit validate();
   emit focusLost();
@@ -91,8 +106,15 @@ QString EntryField::filtered(const QString& characters) {
     if (!verdict.enter) continue;
     emit validate();
     emit entered();
+    if (isCurrent()) selectAll();
   }
   return accepted;
+}
+
+bool EntryField::accepts(const QString& characters) const {
+  return std::ranges::all_of(characters, [this](QChar character) {
+    return keys_(character.unicode(), pointTyped_ != nullptr && *pointTyped_).accepted;
+  });
 }
 
 void EntryField::keyPressEvent(QKeyEvent* event) {
@@ -108,12 +130,58 @@ void EntryField::keyPressEvent(QKeyEvent* event) {
   }
 }
 
+// What is being composed would replace the selected number: it is shown if it may become input.
 void EntryField::inputMethodEvent(QInputMethodEvent* event) {
-  QInputMethodEvent passed(event->preeditString(), event->attributes());
+  const bool shown = accepts(event->preeditString());
+  QInputMethodEvent passed(shown ? event->preeditString() : QString(),
+                           shown ? event->attributes() : QList<QInputMethodEvent::Attribute>());
   passed.setCommitString(filtered(event->commitString()), event->replacementStart(),
                          event->replacementLength());
   QLineEdit::inputMethodEvent(&passed);
   event->accept();
+}
+
+// In a window that is not active yet the press comes before the focus.
+void EntryField::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) {
+    const bool untouched = visit_ == Visit::Fresh && selectedText() == text();
+    const bool first = visit_ == Visit::None || untouched;
+    mouse_ = first && event->modifiers() == Qt::NoModifier ? Mouse::ClicksFirst : Mouse::Selects;
+    pressed_ = event->position().toPoint();
+  }
+  QLineEdit::mousePressEvent(event);
+}
+
+// A hand that trembles on a click drags nothing.
+void EntryField::mouseMoveEvent(QMouseEvent* event) {
+  const int moved = (event->position().toPoint() - pressed_).manhattanLength();
+  if (mouse_ == Mouse::ClicksFirst && moved >= QApplication::startDragDistance())
+    mouse_ = Mouse::Selects;
+  if (mouse_ == Mouse::Selects) QLineEdit::mouseMoveEvent(event);
+}
+
+void EntryField::mouseReleaseEvent(QMouseEvent* event) {
+  QLineEdit::mouseReleaseEvent(event);
+  if (event->button() != Qt::LeftButton) return;
+  if (mouse_ == Mouse::ClicksFirst && isCurrent()) selectAll();
+  mouse_ = Mouse::Selects;
+  if (visit_ == Visit::Fresh) visit_ = Visit::Clicked;
+}
+
+void EntryField::mouseDoubleClickEvent(QMouseEvent* event) {
+  QLineEdit::mouseDoubleClickEvent(event);
+  if (event->button() != Qt::LeftButton) return;
+  mouse_ = Mouse::ClicksTwice;
+  selectAll();
+}
+
+// Without the keys that the toolkit names beside the commands: the filter cancels them.
+void EntryField::contextMenuEvent(QContextMenuEvent* event) {
+  QMenu* menu = createStandardContextMenu();
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  for (QAction* command : menu->actions())
+    command->setText(command->text().section(QLatin1Char('\t'), 0, 0));
+  menu->popup(event->globalPos());
 }
 
 }  // namespace tarnwick::ui

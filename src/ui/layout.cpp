@@ -4,6 +4,7 @@
 
 #include <QHBoxLayout>
 
+#include <algorithm>
 #include <map>
 #include <string>
 #include <vector>
@@ -31,6 +32,22 @@ void tellApart(const QWidget& window) {
   for (const auto& [name, controls] : byName)
     for (QWidget* control : controls)
       if (controls.size() > 1) nameAfter(control, groupsAround(*control) + fromQt(name));
+}
+
+// The part of a window's way of the Tab key that a control belongs to.
+int tabPart(const QWidget* control) {
+  if (qobject_cast<const QPushButton*>(control) != nullptr) return 1;
+  const bool result = qobject_cast<const ResultField*>(control) != nullptr ||
+                      qobject_cast<const ResultColumn*>(control) != nullptr;
+  return result ? 2 : 0;
+}
+
+void orderTabStops(QWidget& window) {
+  QWidgetList controls;
+  for (QWidget* at = window.nextInFocusChain(); at != &window; at = at->nextInFocusChain())
+    if (at->focusPolicy() != Qt::NoFocus && at->focusProxy() == nullptr) controls << at;
+  std::ranges::stable_sort(controls, {}, tabPart);
+  for (int i = 1; i < controls.size(); ++i) QWidget::setTabOrder(controls[i - 1], controls[i]);
 }
 
 }  // namespace
@@ -66,7 +83,8 @@ ResultColumn* headedColumn(QGridLayout* grid, std::string_view name, std::string
   text->setBuddy(column);
   nameAfter(column, heading);
   const int at = grid->columnCount();
-  grid->addWidget(text, 0, at, Qt::AlignLeft | Qt::AlignBottom);
+  column->setFixedWidth(std::max(column->minimumWidth(), text->sizeHint().width()));
+  grid->addWidget(text, 0, at, Qt::AlignRight | Qt::AlignBottom);
   grid->addWidget(column, 1, at);
   return column;
 }
@@ -78,6 +96,7 @@ void packTopLeft(QGridLayout* grid) {
 
 void fixToContent(QWidget* window) {
   tellApart(*window);
+  orderTabStops(*window);
   window->layout()->setSizeConstraint(QLayout::SetFixedSize);
 }
 

@@ -29,9 +29,10 @@ ResultColumn* headedColumn(QGridLayout* grid, std::string_view name, std::string
 // of them are there.
 void packTopLeft(QGridLayout* grid);
 
-// Keeps a window at the size of its content, and puts the captions of their groups before the names
-// by which assistive tools call its controls where two of these would be the same; called once all
-// controls are there.
+// Keeps a window at the size of its content, leads the Tab key through its inputs, then its
+// buttons, then its results, and puts the captions of their groups before the names by which
+// assistive tools call its controls where two of these would be the same; called once all controls
+// are there.
 void fixToContent(QWidget* window);
 
 }  // namespace tarnwick::ui

@@ -2,14 +2,19 @@
 
 #include "common/lines.h"
 #include "common/number_text.h"
+#include "ui/drawing.h"
+#include "ui/result_look.h"
 #include "ui/text.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QFontDatabase>
 #include <QPainter>
 #include <QSignalBlocker>
 #include <QStyleOptionFrame>
+#include <QTextBlock>
 #include <QValidator>
+#include <QWheelEvent>
 
 #include <algorithm>
 
@@ -27,6 +32,11 @@ public:
   }
 };
 
+// Whether the Tab key stops at a control; a click goes there all the same.
+void setTabStop(QWidget& control, bool stop) {
+  control.setFocusPolicy(stop ? Qt::StrongFocus : Qt::ClickFocus);
+}
+
 void giveNames(QWidget& control, std::string_view name, std::string_view accessibleName) {
   control.setObjectName(toQt(name));
   control.setAccessibleName(toQt(accessibleName));
@@ -39,37 +49,24 @@ Control* captioned(QWidget* parent, std::string_view name, std::string_view capt
   return control;
 }
 
-// Puts a result on the window's own background, so that it is not taken for an input; follows the
-// desktop when it turns from light to dark.
-class WindowBackground : public QObject {
-public:
-  explicit WindowBackground(QWidget* result) : QObject(result), result_(result) {
-    result->installEventFilter(this);
-    apply();
-  }
+constexpr const char* exceededProperty = "exceeded";
 
-  bool eventFilter(QObject*, QEvent* event) override {
-    if (event->type() == QEvent::PaletteChange) apply();
-    return false;
-  }
+bool isExceeded(const QWidget& control) {
+  return control.property(exceededProperty).toBool();
+}
 
-private:
-  void apply() {
-    QPalette own;
-    own.setBrush(QPalette::Base, own.brush(QPalette::Window));
-    own.setBrush(QPalette::WindowText,
-                 own.brush(QPalette::Mid));  // what a plain frame is drawn with
-    result_->setPalette(own);
-  }
-
-  QWidget* result_;
-};
+int widthOf(const QWidget& control, std::string_view text) {
+  QFont heavy = control.font();
+  heavy.setBold(true);
+  const QString shown = toQt(text);
+  return std::max(control.fontMetrics().horizontalAdvance(shown),
+                  QFontMetrics(heavy, &control).horizontalAdvance(shown));
+}
 
 // Shows that a control has the focus where its style does not.
 void outline(QWidget& control) {
   QPainter painter(&control);
-  painter.setPen(control.palette().color(QPalette::Highlight));
-  painter.drawRect(control.rect().adjusted(0, 0, -1, -1));
+  drawEdge(painter, control.rect(), focusColor(control.palette()));
 }
 
 }  // namespace
@@ -82,8 +79,7 @@ void fitWidth(QLineEdit& field, std::string_view widest) {
   field.ensurePolished();
   constexpr int textMargins = 2 * 2 + 2;  // those of QLineEdit, and one pixel for the cursor
   const QMargins margins = field.textMargins();
-  const QSize text(field.fontMetrics().horizontalAdvance(toQt(widest)) + margins.left() +
-                       margins.right() + textMargins,
+  const QSize text(widthOf(field, widest) + margins.left() + margins.right() + textMargins,
                    field.fontMetrics().height());
   QStyleOptionFrame option;
   option.initFrom(&field);
@@ -111,12 +107,43 @@ QLineEdit* textField(QWidget* parent, std::string_view name, int maxLength) {
   return field;
 }
 
-ResultField::ResultField(QWidget* parent, std::string_view name, std::string_view widest)
+void weigh(QWidget& control, Weight weight) {
+  constexpr double finalAnswer = 1.25;  // times as large
+  QFont font = control.font();
+  font.setBold(weight != Weight::Usual);
+  if (weight == Weight::FinalAnswer) font.setPointSizeF(QFontInfo(font).pointSizeF() * finalAnswer);
+  control.setFont(font);
+}
+
+void showExceeded(QWidget& control, bool exceeded) {
+  if (isExceeded(control) == exceeded) return;
+  control.setProperty(exceededProperty, exceeded);
+  weigh(control, exceeded ? Weight::Answer : Weight::Usual);
+  control.update();
+}
+
+void drawExceeded(QWidget& control) {
+  if (!isExceeded(control)) return;
+  constexpr QColor warning(208, 96, 0);
+  QPainter painter(&control);
+  drawEdge(painter, control.rect(),
+           distinct(warning, control.palette().color(QPalette::Window), edgeContrast), 2);
+}
+
+ResultField::ResultField(QWidget* parent, std::string_view name, std::string_view widest,
+                         Weight weight)
     : QLineEdit(parent) {
   setObjectName(toQt(name));
   setReadOnly(true);
-  new WindowBackground(this);
+  setAlignment(Qt::AlignRight);
+  useFixedPitch(*this);
+  weigh(*this, weight);
+  new ResultLook(this);
   fitWidth(*this, widest);
+  setFixedWidth(minimumWidth());
+  setTabStop(*this, false);
+  connect(this, &QLineEdit::textChanged, this,
+          [this](const QString& shown) { setTabStop(*this, !shown.isEmpty()); });
 }
 
 std::string ResultField::contents() const {
@@ -128,6 +155,7 @@ std::string ResultField::contents() const {
 void ResultField::setContents(std::string_view text) {
   setText(toQt(text));
   if (hasFocus()) selectAll();
+  emit written();
 }
 
 QSize ResultField::sizeHint() const {
@@ -137,14 +165,8 @@ QSize ResultField::sizeHint() const {
 // Without a frame, the toolkit would not show the focus on an empty field.
 void ResultField::paintEvent(QPaintEvent* event) {
   QLineEdit::paintEvent(event);
+  drawExceeded(*this);
   if (hasFocus() && !hasFrame()) outline(*this);
-}
-
-void alignInColumn(ResultField& field, std::string_view widest) {
-  useFixedPitch(field);
-  field.setAlignment(Qt::AlignRight);
-  fitWidth(field, widest);
-  field.setFixedWidth(field.minimumWidth());
 }
 
 ResultColumn::ResultColumn(QWidget* parent, std::string_view name, std::string_view widest,
@@ -152,51 +174,86 @@ ResultColumn::ResultColumn(QWidget* parent, std::string_view name, std::string_v
     : QPlainTextEdit(parent) {
   setObjectName(toQt(name));
   setReadOnly(true);
-  new WindowBackground(this);
+  setTabStop(*this, false);
+  new ResultLook(this);
   setUndoRedoEnabled(false);
   setTabChangesFocus(true);
   setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   setLineWrapMode(QPlainTextEdit::NoWrap);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  QTextOption lineOption = document()->defaultTextOption();
+  lineOption.setAlignment(Qt::AlignRight);
+  document()->setDefaultTextOption(lineOption);
   useFixedPitch(*this);
   ensurePolished();
-  // The plain frame keeps its lines at fractional scale factors, with a gap to the text's
-  // background.
-  setFrameStyle(QFrame::Box | QFrame::Plain);
-  constexpr int gap = 1;
-  setViewportMargins(gap, gap, gap, gap);
-  const int margins = 2 * (frameWidth() + gap + static_cast<int>(document()->documentMargin()));
-  setMinimumWidth(fontMetrics().horizontalAdvance(toQt(widest)) + margins + 1);
+  setFrameShape(QFrame::NoFrame);  // drawn by the column itself, around the text's own ground
+  constexpr int frame = 2;
+  setViewportMargins(frame, frame, frame, frame);
+  const int margins = 2 * (frame + static_cast<int>(document()->documentMargin()));
+  setMinimumWidth(widthOf(*this, widest) + margins + 1);
   setFixedHeight(fontMetrics().lineSpacing() * lines + margins + 1);
 }
 
-void ResultColumn::setContents(std::string_view text) {
+void ResultColumn::setContents(std::string_view text, std::optional<int> best) {
   contents_ = text;
   std::string_view shown = text;
   if (shown.ends_with(common::lineEnd)) shown.remove_suffix(common::lineEnd.size());
   const QString lines = toQt(shown).remove(QLatin1Char('\r'));
-  if (lines != toPlainText()) setPlainText(lines);
+  if (lines != toPlainText() || best != best_) showLines(lines, best);
+  setTabStop(*this, !lines.isEmpty());
+  emit written();
 }
 
-// The toolkit draws the frame of a column alike with and without the focus.
+void ResultColumn::showLines(const QString& lines, std::optional<int> best) {
+  setPlainText(lines);
+  best_ = best;
+  if (!best) return;
+  QTextCursor line(document()->findBlockByNumber(*best));
+  line.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
+  QTextCharFormat heavy;
+  heavy.setFontWeight(QFont::Bold);
+  line.mergeCharFormat(heavy);
+}
+
 bool ResultColumn::event(QEvent* event) {
   const bool done = QPlainTextEdit::event(event);
-  if (event->type() == QEvent::Paint && hasFocus()) outline(*this);
+  if (event->type() != QEvent::Paint) return done;
+  if (hasFocus()) {
+    outline(*this);
+  } else {
+    QPainter painter(this);
+    drawEdge(painter, rect(), frameColor(palette()));
+  }
+  drawExceeded(*this);
   return done;
+}
+
+void ResultColumn::paintEvent(QPaintEvent* event) {
+  if (best_) {
+    QRectF band =
+        blockBoundingGeometry(document()->findBlockByNumber(*best_)).translated(contentOffset());
+    band.setLeft(0);
+    band.setWidth(viewport()->width());
+    constexpr double tint = 0.25;
+    QPainter(viewport())
+        .fillRect(band, between(palette().color(QPalette::Base),
+                                palette().color(QPalette::Highlight), tint));
+  }
+  QPlainTextEdit::paintEvent(event);
 }
 
 OptionGroup::OptionGroup(QWidget* parent, std::string_view family)
     : QObject(parent), parent_(parent), family_(family) {
   connect(&group_, &QButtonGroup::idToggled, this, [this](int index, bool on) {
     // The Tab key stops at the option that is selected; the toolkit leads it to the first one.
-    button(index)->setFocusPolicy(on ? Qt::StrongFocus : Qt::ClickFocus);
+    setTabStop(*button(index), on);
     if (on) emit chosen(index);
   });
 }
 
 QRadioButton* OptionGroup::add(int index, std::string_view caption) {
   auto* option = captioned<QRadioButton>(parent_, indexed(family_, index), caption);
-  option->setFocusPolicy(Qt::ClickFocus);
+  setTabStop(*option, false);
   group_.addButton(option, index);
   return option;
 }
@@ -216,7 +273,7 @@ void OptionGroup::select(int index) {
 Slider::Slider(QWidget* parent, std::string_view name, int minimum, int maximum)
     : QSlider(Qt::Horizontal, parent) {
   setObjectName(toQt(name));
-  setRange(minimum, maximum);
+  setRangeAndPosition(minimum, maximum, minimum);
   connect(this, &QSlider::valueChanged, this, &Slider::moved);
 }
 
@@ -229,8 +286,25 @@ void Slider::setRangeAndPosition(int minimum, int maximum, int position) {
     const QSignalBlocker quiet(this);
     setRange(minimum, maximum);
     setValue(position);
+    constexpr int usualPage = 10;
+    setPageStep(std::max(usualPage, (maximum - minimum + 1) / 16));
   }
   emit moved(value());
+}
+
+// The toolkit's own notch is a few positions, whatever the range.
+void Slider::wheelEvent(QWheelEvent* event) {
+  const int notch = pageStep() / 16;
+  const int turn = event->angleDelta().y();
+  if (notch <= QApplication::wheelScrollLines() || turn == 0 ||
+      event->modifiers() != Qt::NoModifier) {
+    QSlider::wheelEvent(event);
+    return;
+  }
+  turned_ += turn * notch;
+  setValue(value() + turned_ / QWheelEvent::DefaultDeltasPerStep);
+  turned_ %= QWheelEvent::DefaultDeltasPerStep;
+  event->accept();
 }
 
 SelectionList::SelectionList(QWidget* parent, std::string_view name,

@@ -13,6 +13,7 @@
 #include <QRadioButton>
 #include <QSlider>
 
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -22,7 +23,7 @@
 // as object name; what an assistive tool calls it is its caption or the label beside it.
 namespace tarnwick::ui {
 
-// Makes a one-line field just wide enough to show the text whole.
+// Makes a one-line field just wide enough to show the text whole, heavy or not.
 void fitWidth(QLineEdit& field, std::string_view widest);
 
 // Makes a one-line field take a pasted line break as the blank that it is shown as.
@@ -37,28 +38,43 @@ void useFixedPitch(QWidget& control);
 // A one-line field for free text in the fixed-pitch font, as wide as its longest text.
 [[nodiscard]] QLineEdit* textField(QWidget* parent, std::string_view name, int maxLength);
 
-// A read-only one-line field for a result.
+// How much a result weighs for the eye: an answer more than what led to it, and of several answers
+// the final one most.
+enum class Weight { Usual, Answer, FinalAnswer };
+
+// Gives the text of a control this weight.
+void weigh(QWidget& control, Weight weight);
+
+// Says whether a field or a column stands for the limit that the inputs exceed: it then has a heavy
+// frame and a heavy text.
+void showExceeded(QWidget& control, bool exceeded);
+// Draws that frame, over what the control itself has drawn.
+void drawExceeded(QWidget& control);
+
+// A read-only one-line field for a result: fixed-pitch, right-aligned and as wide as `widest`, so
+// that the digits of fields above each other stand in line. A longer text is shown by the tooltip.
+// While it is empty, the Tab key passes it by, as it does an empty column.
 class ResultField : public QLineEdit {
   Q_OBJECT
 
 public:
-  // `widest` is the longest text that the field is to show whole.
-  ResultField(QWidget* parent, std::string_view name, std::string_view widest);
+  ResultField(QWidget* parent, std::string_view name, std::string_view widest,
+              Weight weight = Weight::Usual);
 
   [[nodiscard]] std::string contents() const;
   void setContents(std::string_view text);
   [[nodiscard]] QSize sizeHint() const override;
 
+signals:
+  // The contents were set, be it to the same text.
+  void written();
+
 protected:
   void paintEvent(QPaintEvent* event) override;
 };
 
-// Makes a result field one of a column: fixed-pitch, right-aligned and as wide as `widest`, so that
-// the digits of the fields above each other stand in line.
-void alignInColumn(ResultField& field, std::string_view widest);
-
-// A read-only column of lines. Its text as the program sees it ends each line with CR LF and is
-// kept as it was set; what is shown has one line for each of them.
+// A read-only column of lines, right-aligned. Its text as the program sees it ends each line with
+// CR LF and is kept as it was set; what is shown has one line for each of them.
 class ResultColumn : public QPlainTextEdit {
   Q_OBJECT
 
@@ -67,15 +83,24 @@ public:
   ResultColumn(QWidget* parent, std::string_view name, std::string_view widest, int lines);
 
   [[nodiscard]] const std::string& contents() const { return contents_; }
-  void setContents(std::string_view text);
+  // `best` is the line, counted from 0, that is marked as the best of them.
+  void setContents(std::string_view text, std::optional<int> best = std::nullopt);
   [[nodiscard]] QSize sizeHint() const override { return minimumSize(); }
   [[nodiscard]] QSize minimumSizeHint() const override { return minimumSize(); }
 
+signals:
+  // The contents were set, be it to the same text.
+  void written();
+
 protected:
   bool event(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
 private:
+  void showLines(const QString& lines, std::optional<int> best);
+
   std::string contents_;
+  std::optional<int> best_;
 };
 
 // Option buttons of which exactly one is selected, each with its index.
@@ -102,7 +127,8 @@ private:
   QButtonGroup group_;
 };
 
-// A horizontal slider that reports each new position, also in the middle of a drag.
+// A horizontal slider that reports each new position, also in the middle of a drag. Where the range
+// is long, a page is a sixteenth of it and a notch of the wheel a sixteenth of a page.
 class Slider : public QSlider {
   Q_OBJECT
 
@@ -119,6 +145,12 @@ public:
 
 signals:
   void moved(int position);
+
+protected:
+  void wheelEvent(QWheelEvent* event) override;
+
+private:
+  int turned_ = 0;  // by the wheel, in 1/120 of a position, what has not moved the slider yet
 };
 
 // A drop-down list. As it is it can only be chosen from.

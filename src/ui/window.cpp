@@ -1,11 +1,13 @@
 #include "ui/window.h"
 
 #include "ui/accessible.h"
+#include "ui/placement.h"
 #include "ui/text.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QGridLayout>
+#include <QShortcut>
 
 #include <utility>
 
@@ -71,10 +73,15 @@ Window::~Window() {
 }
 
 void Window::bringForward() {
+  if (scrolls_ == nullptr && !isVisible()) scrolls_ = scrollIfTooLarge(*this);
   setWindowState(windowState() & ~Qt::WindowMinimized);
   show();
   raise();
   activateWindow();
+}
+
+void Window::closeBy(const QKeySequence& keys) {
+  connect(new QShortcut(keys, this), &QShortcut::activated, this, &QWidget::close);
 }
 
 void Window::showMessage(QMessageBox::Icon icon, std::string_view title, std::string_view text) {
@@ -100,6 +107,7 @@ void Window::followFocus(QWidget* now) {
   if (FocusListener* control = listener(left)) control->focusLeft();
   if (QApplication::focusWidget() != now) return;
   current_ = now;
+  if (scrolls_ != nullptr) scrolls_->ensureWidgetVisible(now);
   if (FocusListener* control = listener(now)) control->focusEntered();
 }
 

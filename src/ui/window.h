@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QKeySequence>
 #include <QMessageBox>
 #include <QPointer>
+#include <QScrollArea>
 #include <QWidget>
 
 #include <string_view>
@@ -28,8 +30,12 @@ public:
   Window(std::string_view name, std::string_view caption);
   ~Window() override;
 
-  // Shows the window, or brings it forward when it is open or minimised.
+  // Shows the window, or brings it forward when it is open or minimised. One that is larger than
+  // its screen scrolls, and shows the control that has the focus.
   void bringForward();
+
+  // Lets keys close the window.
+  void closeBy(const QKeySequence& keys);
 
   // Shows a message with an OK button that blocks this window until it is closed; the call does
   // not wait for that. Nothing happens while another message of this window is open. A mouse
@@ -49,6 +55,7 @@ private:
   QPointer<QWidget>
       current_;  // the control that the user works in, also while another window is active
   QPointer<QMessageBox> message_;
+  QScrollArea* scrolls_ = nullptr;  // what a window too large for its screen scrolls in
 };
 
 }  // namespace tarnwick::ui

@@ -32,10 +32,21 @@ const QWidget* partBeside(const QWidget* control, const QWidget* other) {
   return control;
 }
 
-// Going on is going right or down, in rows or in columns, and one group after the other.
+// Inputs come first, then buttons, then results.
+int partOf(const QWidget* control) {
+  if (control->inherits("QPushButton")) return 1;
+  return isResult(control).value_or(false) ? 2 : 0;
+}
+
+// In each part, going on is going right or down, in rows or in columns, and one group after the
+// other; only the duty cycle comes after the frequency, to which leaving the oscillator leads.
 void expectReadingOrder(const QWidgetList& stops) {
+  EXPECT_TRUE(std::ranges::is_sorted(stops, {}, partOf)) << fullName(stops.front());
   std::set<const QWidget*> groups{stops.front()->parentWidget()};
   for (int i = 1; i < stops.size(); ++i) {
+    const bool beginsPart = partOf(stops[i - 1]) < partOf(stops[i]);
+    if (beginsPart) groups = {stops[i]->parentWidget()};
+    if (beginsPart || stops[i]->objectName() == "tDuty") continue;
     const QRect from = partBeside(stops[i - 1], stops[i])->geometry();
     const QRect to = partBeside(stops[i], stops[i - 1])->geometry();
     const bool onward = (to.bottom() >= from.top() || to.left() > from.right()) &&
@@ -53,6 +64,7 @@ bool isStop(const QWidget* control) {
   const auto* button = qobject_cast<const QAbstractButton*>(control);
   if (isCell(control) || control->parentWidget()->objectName() == "Image2") return false;
   if (button != nullptr) return button->isChecked() || !control->inherits("QRadioButton");
+  if (isResult(control).value_or(false)) return !textOf(control).isEmpty();
   return isResult(control) || control->inherits("QSlider") || control->inherits("QComboBox");
 }
 
@@ -67,10 +79,15 @@ TEST_F(EveryWindow, LeadsTheTabKeyToEachControlAsTheEyeGoes) {
     std::ranges::reverse(back);
     expectReadingOrder(forth);
     expectReadingOrder(back);
-    for (QWidget* control : controlsOf(opened))
-      EXPECT_TRUE((forth + back).contains(control) || !isStop(control) || !control->isVisible() ||
-                  !control->isEnabled())
+    for (QWidget* control : controlsOf(opened)) {
+      const bool isReached = (forth + back).contains(control);
+      EXPECT_TRUE(isReached || !isStop(control) || !control->isVisible() || !control->isEnabled())
           << fullName(control);
+      EXPECT_TRUE(!isReached || isStop(control) || isCell(control)) << fullName(control);
+    }
+    // The way to what is copied is short; the characters' is as long as their table.
+    const auto inputs = std::ranges::count(forth, 0, partOf);
+    EXPECT_TRUE(inputs <= 12 || opened->objectName() == "fCustomCharacter") << fullName(opened);
   }
 }
 
@@ -92,6 +109,23 @@ TEST_F(Keyboard, OpensWindows) {
   turnTo("fAbout");
   press(Qt::Key_Enter);
   EXPECT_EQ(windows.loaded("fAbout"), nullptr);
+}
+
+TEST_F(EveryWindow, ClosesByKeys) {
+  for (const std::string name : windowNames) {
+    turnTo(name);
+    press(Qt::Key_Escape);
+    EXPECT_EQ(windows.loaded(name) == nullptr, name == "fAbout") << name;
+    if (windows.loaded(name) != nullptr) press(Qt::CTRL | Qt::Key_W);
+    EXPECT_EQ(windows.loaded(name) == nullptr, name != "fMain") << name;
+  }
+  for (const std::string name : windowNames) {
+    windows.open("fMain");
+    windows.open(name);
+    turnTo(name);
+    press(Qt::CTRL | Qt::Key_Q);
+    EXPECT_EQ(windows.loaded("fMain"), nullptr) << name;
+  }
 }
 
 }  // namespace

@@ -68,6 +68,23 @@ TEST_F(Launcher, OpensEachWindowOnceAndBringsItForward) {
   EXPECT_TRUE(window("fMain")->isVisible());
 }
 
+TEST_F(Launcher, ShowsTheCommandThatTheKeyboardOrTheMouseHas) {
+  auto* menu = window("fMain")->findChild<QMenuBar*>();
+  const auto look = [&](int command) {
+    return menu->grab(menu->actionGeometry(menu->actions()[command])).toImage();
+  };
+  const QImage exit = look(0);
+  const QImage webSite = look(1);
+  press(Qt::Key_Alt);
+  EXPECT_NE(look(0), exit);
+  press(Qt::Key_Right);
+  EXPECT_TRUE(look(0) == exit && look(1) != webSite);
+  press(Qt::Key_Escape);
+  EXPECT_EQ(look(1), webSite);
+  QTest::mouseMove(current()->windowHandle(), menu->actionGeometry(menu->actions()[0]).center());
+  EXPECT_NE(look(0), exit);
+}
+
 TEST_F(Launcher, AsksTheDesktopForWebSiteAndMail) {
   command("Visite_our_Website");
   command("Contact_us");

@@ -1,13 +1,13 @@
 #include "support/look.h"
 
 #include "support/program.h"
+#include "ui/drawing.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QStyle>
 
 #include <algorithm>
-#include <cmath>
 #include <map>
 #include <tuple>
 
@@ -54,14 +54,6 @@ TEST_F(Look, ShowsTheWidestRatesWhole) {
   }
 }
 
-// Relative luminance, 0 to 1, as the Web Content Accessibility Guidelines define it, but with a
-// power of 2.2 throughout.
-double luminance(QColor colour) {
-  const auto linear = [](double part) { return std::pow(part, 2.2); };
-  return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-         0.0722 * linear(colour.blueF());
-}
-
 // Where a control has its text, and nothing else.
 QRect textPlace(const QWidget* control) {
   const int mark = 2 * control->style()->pixelMetric(QStyle::PM_IndicatorWidth);
@@ -72,20 +64,27 @@ QRect textPlace(const QWidget* control) {
                                   control->inherits("QComboBox") ? -mark : -4, -3);
 }
 
-// How much the text on a control stands out from its ground, as painted (1 is not at all, 21 is
+// Where a control shows that it can be operated: the box of an option, the left edge of an entry
+// with its ground; nothing where its text shows that.
+QRect edgePlace(const QWidget* control) {
+  if (control->inherits("QRadioButton") || control->inherits("QCheckBox"))
+    return {0, 0, control->style()->pixelMetric(QStyle::PM_IndicatorWidth), control->height()};
+  const bool isEntry = isResult(control) == std::optional(false);
+  return isEntry ? QRect(-3, control->height() / 2, 5, 1) : QRect();
+}
+
+// How much a place of a control stands out from its ground, as painted (1 is not at all, 21 is
 // black on white), and its ground, the colour that most of it has.
-std::pair<double, QColor> contrastOf(QWidget* control) {
+std::pair<double, QColor> contrastOf(QWidget* control, QRect place) {
   const QPoint corner = control->mapTo(control->window(), QPoint());
-  const QImage image = control->window()->grab(textPlace(control).translated(corner)).toImage();
+  const QImage image = control->window()->grab(place.translated(corner)).toImage();
   std::map<QRgb, int> colours;
   for (int y = 0; y < image.height(); ++y)
     for (int x = 0; x < image.width(); ++x) ++colours[image.pixel(x, y)];
   const auto most = std::ranges::max_element(colours, {}, [](auto& each) { return each.second; });
   double ratio = 1;
-  for (const auto& [colour, times] : colours) {
-    const auto [dark, light] = std::minmax({luminance(most->first), luminance(colour)});
-    ratio = std::max(ratio, (light + 0.05) / (dark + 0.05));
-  }
+  for (const auto& [colour, times] : colours)
+    ratio = std::max(ratio, ui::contrast(QColor(colour), QColor(most->first)));
   return {ratio, most->first};
 }
 
@@ -96,16 +95,23 @@ TEST_F(EveryWindow, CanBeReadInTheLightAndInTheDark) {
   lcd->findChild<QAbstractButton*>("chk(12)")->click();
   QList<QImage> pictures;
   for (const QColor colour : {QColor(0xef, 0xf0, 0xf1), QColor(0x2a, 0x2e, 0x32)}) {
-    const QPalette palette(colour, colour);
+    QPalette palette(colour, colour);
+    QApplication::style()->polish(palette);
     QApplication::setPalette(palette);
     QCoreApplication::processEvents();
     for (const QWidget* opened : all)
       for (QWidget* control : controlsOf(opened)) {
         const bool hasText = !textOf(control).isEmpty() && !control->inherits("QSlider");
-        if (!hasText || isCell(control) || !control->isVisible() || !control->isEnabled()) continue;
-        const auto [ratio, ground] = contrastOf(control);
+        if (!hasText || isCell(control) || !control->isEnabled()) continue;
+        // Neither hidden nor scrolled away.
+        if (control->visibleRegion().boundingRect() != control->rect()) continue;
+        if (auto* field = qobject_cast<QLineEdit*>(control)) field->deselect();
+        const auto [ratio, ground] = contrastOf(control, textPlace(control));
         const bool isLarge = control->font().bold() && control->font().pointSize() >= 14;
         EXPECT_GE(ratio, isLarge ? 3 : 4.5) << fullName(control) << " on " << qGray(colour.rgb());
+        const QRect edge = edgePlace(control);
+        const double edgeRatio = edge.isValid() ? contrastOf(control, edge).first : 3;
+        EXPECT_GE(edgeRatio, 3) << fullName(control) << ", its edge";
         if (control->parentWidget()->objectName() == "Image2" || !isResult(control)) continue;
         EXPECT_EQ(ground, palette.color(*isResult(control) ? QPalette::Window : QPalette::Base))
             << fullName(control);

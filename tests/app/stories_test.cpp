@@ -77,6 +77,15 @@ protected:
             << "dot " << i;
   }
 
+  // What is out of date has a text of another colour than the rest.
+  void expectDimmed(const QString& controls, bool dimmed) {
+    for (const QString& name : controls.split(' ')) {
+      const auto* shown = control(ui::fromQt(name));
+      const auto role = shown->inherits("QLabel") ? QPalette::WindowText : QPalette::Text;
+      EXPECT_EQ(shown->palette().color(role) != QPalette().color(role), dimmed) << fullName(shown);
+    }
+  }
+
   void draw(const QString& dots) {
     for (int i = 0; i < pixels; ++i)
       if (isOn(dots, i)) click(cell(i));
@@ -138,6 +147,8 @@ const Telling::Verbs& Telling::verbs() {
       {"picture", [](User user, Is act) { expectDots(user.control(act.name), 2, 3, act.text); }},
       {"grid", [](User user,
                   Is act) { expectDots(user.control("chk(4)")->parentWidget(), 7, 16, act.all); }},
+      {"dimmed", [](User user, Is act) { user.expectDimmed(act.all, true); }},
+      {"true", [](User user, Is act) { user.expectDimmed(act.all, false); }},
       {"focus", [](User user, Is act) { EXPECT_EQ(user.focused(), act.name); }},
       {"enabled", [](User user, Is act) { user.expectEach(act.all, &QWidget::isEnabled, true); }},
       {"disabled", [](User user, Is act) { user.expectEach(act.all, &QWidget::isEnabled, false); }},

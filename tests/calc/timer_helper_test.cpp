@@ -61,6 +61,20 @@ TEST(TimerHelper, ListsTheMatchesOfEachWidthAndTheBest) {
   }
 }
 
+TEST(TimerHelper, TellsTheBestLineOrTheLimitThatIsExceeded) {
+  using enum TimerLimit;
+  using Case = std::tuple<TimerHelperInputs, TimerLimit, TimerLimit>;
+  for (const auto& [inputs, limit8, limit16] :
+       {Case{{4, {10, uSec}, 7}, None, None}, Case{{4, {7, uSec}, 7}, ReloadTime, ReloadTime},
+        Case{{20, {50, Hz}, 1}, Counts, None}, Case{{4, {65.537, mSec}, 1}, Counts, None},
+        Case{{4, {202, KHz}, 1}, Tolerance, Tolerance}}) {
+    const TimerHelperShown shown = showTimerHelper(inputs);
+    EXPECT_EQ(shown.width8.exceeded, limit8) << inputs.delay.value;
+    EXPECT_EQ(shown.width8.bestLine.has_value(), limit8 == None);
+    EXPECT_EQ(shown.width16.exceeded, limit16) << inputs.delay.value;
+  }
+}
+
 TEST(TimerHelper, MovesFrequenciesBetweenHzAndKHz) {
   using Case = std::tuple<Delay, const char*, DelayUnit>;
   for (const auto& [delay, text, unit] :

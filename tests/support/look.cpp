@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QScreen>
+#include <QScrollArea>
 #include <QSlider>
 #include <QStyle>
 #include <QTest>
@@ -46,6 +47,8 @@ QString textOf(const QWidget* control) {
 }
 
 QImage onScreen(QWidget* control) {
+  if (auto* area = control->window()->findChild<QScrollArea*>(); area != nullptr)
+    area->ensureWidgetVisible(control);
   if (QGuiApplication::platformName() == "windows") return control->grab().toImage();
   QCoreApplication::processEvents();
   const QWidget* window = control->window();

@@ -11,6 +11,7 @@
 #include <QListView>
 #include <QMessageBox>
 #include <QProcess>
+#include <QScrollArea>
 
 #ifdef Q_OS_WIN
 #include <windows.h>
@@ -85,6 +86,8 @@ void Program::click(const std::string& name, Qt::MouseButton button) {
 }
 
 void Program::clickAt(const QWidget& target, QPoint place, Qt::MouseButton button) {
+  if (auto* area = current_->findChild<QScrollArea*>(); area != nullptr)
+    area->ensureWidgetVisible(const_cast<QWidget*>(&target));
   QTest::mouseClick(current_->windowHandle(), button, {}, target.mapTo(target.window(), place));
   settle();
 }

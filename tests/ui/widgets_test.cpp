@@ -3,6 +3,8 @@
 
 #include <QClipboard>
 #include <QInputMethodEvent>
+#include <QSlider>
+#include <QWheelEvent>
 
 namespace tarnwick::tests {
 namespace {
@@ -42,13 +44,35 @@ TEST_F(Widgets, EntryFieldIgnoresControlCombinationsButEdits) {
   EXPECT_EQ(focused(), "tImpedance");
 }
 
-// Leaving the frequency writes it anew.
+// Leaving the oscillator writes it anew.
 TEST_F(Widgets, ResultStaysSelectedWhenItIsWrittenAsTheTabKeyComes) {
-  open("cPWM", "fPWM");
-  EXPECT_EQ(control<QLineEdit>("tMaxFreq")->selectedText(), "");
+  open("cTimer", "fTimer");
+  EXPECT_EQ(control<QLineEdit>("tFreq")->selectedText(), "");
   press(Qt::ShiftModifier | Qt::Key_Tab);
-  EXPECT_EQ(focused(), "tMaxFreq");
-  EXPECT_EQ(control<QLineEdit>("tMaxFreq")->selectedText(), "500.0 KHz");
+  EXPECT_EQ(focused(), "tFreq");
+  EXPECT_EQ(control<QLineEdit>("tFreq")->selectedText(), "3.802 KHz");
+}
+
+TEST_F(Widgets, SliderTakesLongStepsInALongRange) {
+  open("cTimer", "fTimer");
+  auto* slider = control<QSlider>("scrollpreload");
+  const auto turn = [&](int eighths) {
+    const QPointF place = slider->rect().center();
+    QWheelEvent event(place, slider->mapToGlobal(place), {}, {0, eighths}, {}, {}, {}, false);
+    QCoreApplication::sendEvent(slider, &event);
+  };
+  for (const auto& [width, page, notch] :
+       {std::tuple("oType(1)", 16, 3), {"oType(2)", 4096, 256}}) {
+    click(width);
+    slider->setFocus();
+    press(Qt::Key_PageUp);
+    EXPECT_EQ(shown("tPreLoad"), std::to_string(page));
+    turn(120);
+    EXPECT_EQ(shown("tPreLoad"), std::to_string(page + notch));
+    for (const int part : {-40, -40, -40}) turn(part);
+    press(Qt::Key_Right);
+    EXPECT_EQ(shown("tPreLoad"), std::to_string(page + 1));
+  }
 }
 
 TEST(OnDisplayClipboard, KeepsCarriageReturnsForOtherPrograms) {
