@@ -1,4 +1,4 @@
-#include "calc/baud_rate.h"
+#include "calc/usart.h"
 #include "common/number_text.h"
 
 #include <iostream>
