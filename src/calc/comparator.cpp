@@ -41,7 +41,8 @@ ComparatorShown showComparator(const ComparatorInputs& inputs) {
 }
 
 ComparatorShown next(ComparatorShown shown, const ComparatorInputs& inputs) {
-  return isValidVdd(inputs.vdd) ? showComparator(inputs) : shown;
+  if (isValidVdd(inputs.vdd)) shown = showComparator(inputs);
+  return shown;
 }
 
 std::string cvrColumn() {

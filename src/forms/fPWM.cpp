@@ -26,21 +26,7 @@ fPWM::fPWM(common::OscillatorSetting& oscillator)
   Form_Load();
 }
 
-void fPWM::layOut() {
-  auto* Frame1 = ui::group(this, "Frame1", "OSC (MHz)");
-  tOSC = new ui::EntryField(Frame1, "tOSC",
-                            {.keys = common::decimalKey, .pointTyped = &OscPointTyped});
-  tOSC->setContents("4");
-  ui::row(Frame1, {tOSC});
-
-  auto* Frame2 = ui::group(this, "Frame2", "Duty cycle (%)");
-  tDuty = new ui::EntryField(Frame2, "tDuty", {.validatesOnFocusLost = true});
-  scrollduty = new ui::Slider(Frame2, "scrollduty", 0, 100);
-  ui::nameAfter(scrollduty, "Duty cycle slider");
-  auto* duty = ui::grid(Frame2);
-  duty->addWidget(tDuty, 0, 0, Qt::AlignHCenter);
-  duty->addWidget(scrollduty, 1, 0);
-
+QWidget* fPWM::layOutFrequency() {
   auto* Frame3 = ui::group(this, "Frame3", "Frequency");
   auto* frequency = ui::grid(Frame3);
   auto* limits = ui::grid(nullptr);
@@ -58,6 +44,25 @@ void fPWM::layOut() {
   frequency->addWidget(oHzKhz->add(inHz, "Hz"), 0, 2);
   frequency->addWidget(oHzKhz->add(inKHz, "KHz"), 0, 3);
   oHzKhz->select(inKHz);
+  return Frame3;
+}
+
+void fPWM::layOut() {
+  auto* Frame1 = ui::group(this, "Frame1", "OSC (MHz)");
+  tOSC = new ui::EntryField(Frame1, "tOSC",
+                            {.keys = common::decimalKey, .pointTyped = &OscPointTyped});
+  tOSC->setContents("4");
+  ui::row(Frame1, {tOSC});
+
+  auto* Frame2 = ui::group(this, "Frame2", "Duty cycle (%)");
+  tDuty = new ui::EntryField(Frame2, "tDuty", {.validatesOnFocusLost = true});
+  scrollduty = new ui::Slider(Frame2, "scrollduty", 0, 100);
+  ui::nameAfter(scrollduty, "Duty cycle slider");
+  auto* duty = ui::grid(Frame2);
+  duty->addWidget(tDuty, 0, 0, Qt::AlignHCenter);
+  duty->addWidget(scrollduty, 1, 0);
+
+  auto* Frame3 = layOutFrequency();
 
   auto* Frame4 = ui::group(this, "Frame4", "Possible match");
   auto* matches = ui::grid(Frame4);

@@ -14,6 +14,7 @@ public:
   explicit fPWM(common::OscillatorSetting& oscillator);
 
 private:
+  QWidget* layOutFrequency();
   void layOut();
   void connectEvents();
   void Form_Load();

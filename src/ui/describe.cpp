@@ -54,7 +54,7 @@ public:
 }  // namespace
 
 void describe(QWidget& window, std::span<const Description> descriptions) {
-  auto* wholeText = new WholeText(&window);
+  auto* wholeText = new WholeText(&window);  // which owns it
   for (auto* control : window.findChildren<QWidget*>()) {
     const QString sentence = toQt(sentenceOf(fromQt(control->objectName()), descriptions));
     if (sentence.isEmpty()) continue;
@@ -64,6 +64,6 @@ void describe(QWidget& window, std::span<const Description> descriptions) {
     control->setAccessibleDescription(
         isList ? control->accessibleName() + QStringLiteral(": ") + sentence : sentence);
   }
-}
+}  // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks)
 
 }  // namespace tarnwick::ui
