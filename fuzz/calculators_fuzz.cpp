@@ -1,6 +1,6 @@
-// Every calculator on any numbers and texts: what it shows and copies is made of printable lines,
-// shows no number that is not finite, and keeps what the headers promise; nothing becomes a whole
-// number that does not fit one (the sanitizers watch that).
+// Reading any text as a number, and every calculator on any numbers and texts: what it shows and
+// copies is made of printable lines, shows no number that is not finite, and keeps what the headers
+// promise; nothing becomes a whole number that does not fit one (the sanitizers watch that).
 
 #include "calc/adc.h"
 #include "calc/comparator.h"
@@ -10,6 +10,7 @@
 #include "calc/serial_text.h"
 #include "calc/timer_helper.h"
 #include "common/lines.h"
+#include "common/read_number.h"
 #include "fuzz/input.h"
 
 #include <algorithm>
@@ -66,6 +67,16 @@ calc::BaudInputs anyBaud(FuzzedDataProvider& input) {
 
 calc::SerialGoal anyGoal(FuzzedDataProvider& input) {
   return {.baud = fieldText(input), .kBaud = input.ConsumeBool(), .osc = fieldText(input)};
+}
+
+void checkNumber(FuzzedDataProvider& input) {
+  std::string text = input.ConsumeRandomLengthString();
+  const double number = common::readNumber(text);
+  require(std::isfinite(number) && (number != 0 || !std::signbit(number)), "any text is a number");
+  std::erase_if(text, [](char c) { return c != '.' && (c < '0' || c > '9'); });
+  constexpr double largest = std::numeric_limits<double>::max();
+  require(common::readNumber(text) == std::min(std::strtod(text.c_str(), nullptr), largest),
+          "digits and points read as in the C library");
 }
 
 void checkUsart(FuzzedDataProvider& input) {
@@ -127,8 +138,8 @@ void checkComparator(FuzzedDataProvider& input) {
   const calc::ComparatorShown shown = showComparator(inputs);
   checkLines({shown.lowRange, shown.highRange});
   requireLines(16, {shown.vref, calc::cvrColumn()});
-  require(next({}, inputs).vref.empty() == !calc::isValidVdd(inputs.vdd),
-          "a wrong supply is kept out");
+  const calc::ComparatorShown typed = next({}, inputs);
+  require(typed.vref.empty() == typed.invalidVdd, "a wrong supply is kept out");
 }
 
 void checkTimer(FuzzedDataProvider& input) {
@@ -208,8 +219,8 @@ void checkLcd(FuzzedDataProvider& input) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  fuzz::runOneOf(std::array{checkUsart, checkEusart, checkSer2, checkAdc, checkComparator,
-                            checkTimer, checkTimerHelper, checkPwm, checkLcd},
+  fuzz::runOneOf(std::array{checkNumber, checkUsart, checkEusart, checkSer2, checkAdc,
+                            checkComparator, checkTimer, checkTimerHelper, checkPwm, checkLcd},
                  data, size);
   return 0;
 }

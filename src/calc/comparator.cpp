@@ -24,10 +24,6 @@ double VrefHigh(int CVR, double vdd) {
   return vdd * 0.25 + (CVR / 32.0) * vdd;
 }
 
-bool isValidVdd(double vdd) {
-  return vdd != 0 && vdd <= maxVdd;
-}
-
 ComparatorShown showComparator(const ComparatorInputs& inputs) {
   const auto& [vdd, range] = inputs;
   ComparatorShown shown;
@@ -41,8 +37,8 @@ ComparatorShown showComparator(const ComparatorInputs& inputs) {
 }
 
 ComparatorShown next(ComparatorShown shown, const ComparatorInputs& inputs) {
-  if (isValidVdd(inputs.vdd)) shown = showComparator(inputs);
-  return shown;
+  shown.invalidVdd = inputs.vdd == 0 || !(inputs.vdd <= maxVdd);
+  return shown.invalidVdd ? shown : showComparator(inputs);
 }
 
 std::string cvrColumn() {

@@ -14,9 +14,10 @@ struct ComparatorInputs {
 
 // What the window shows.
 struct ComparatorShown {
-  std::string lowRange;   // what the range spans: "0.000 - 3.125 Volt"
-  std::string highRange;  // "1.250 - 3.594 Volt"
-  std::string vref;       // the 16 voltages in ascending order of CVR, each on a line
+  std::string lowRange;     // what the range spans: "0.000 - 3.125 Volt"
+  std::string highRange;    // "1.250 - 3.594 Volt"
+  std::string vref;         // the 16 voltages in ascending order of CVR, each on a line
+  bool invalidVdd = false;  // the texts are of the supply before: the last one was refused
 };
 
 // Answers the reference voltage in V of a 4-bit value CVR (0 to 15) from a supply in V: in 24 steps
@@ -25,13 +26,11 @@ struct ComparatorShown {
 [[nodiscard]] double VrefLow(int CVR, double vdd);
 [[nodiscard]] double VrefHigh(int CVR, double vdd);
 
-// Answers whether a supply in V may be tabulated: any but 0 that does not exceed 5.25.
-[[nodiscard]] bool isValidVdd(double vdd);
-
 // Answers all that the window shows. A voltage that is not finite is empty text.
 [[nodiscard]] ComparatorShown showComparator(const ComparatorInputs& inputs);
 
-// Answers what is shown once a supply was typed: one that is not valid leaves all as it was.
+// Answers what is shown once a supply was typed: 0 and any above 5.25 V leave the texts as they
+// were.
 [[nodiscard]] ComparatorShown next(ComparatorShown shown, const ComparatorInputs& inputs);
 
 // Answers the 16 values of CVR in binary, each on a line with its line end.

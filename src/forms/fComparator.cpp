@@ -1,6 +1,5 @@
 #include "forms/fComparator.h"
 
-#include "calc/comparator.h"
 #include "common/product.h"
 #include "forms/descriptions.h"
 #include "ui/layout.h"
@@ -87,19 +86,26 @@ void fComparator::Form_Load() {
   CalcVref();
 }
 
-void fComparator::CalcVref() {
-  const calc::ComparatorShown shown = calc::showComparator(
-      {.vdd = tVdd->number(), .range = static_cast<calc::VrefRange>(oVrefRange->selected())});
+calc::ComparatorInputs fComparator::inputs() const {
+  return {.vdd = tVdd->number(), .range = static_cast<calc::VrefRange>(oVrefRange->selected())};
+}
+
+// A refused supply leaves the fields alone, so that they stay marked as out of date.
+void fComparator::show(const calc::ComparatorShown& shown) {
+  shown_ = shown;
+  if (shown.invalidVdd) return;
   tLabelLowRange->setText(ui::toQt(shown.lowRange));
   tLabelHighRange->setText(ui::toQt(shown.highRange));
   tVref->setContents(shown.vref);
 }
 
+void fComparator::CalcVref() {
+  show(calc::showComparator(inputs()));
+}
+
 void fComparator::tVdd_Validate() {
-  if (calc::isValidVdd(tVdd->number())) {
-    CalcVref();
-    return;
-  }
+  show(calc::next(shown_, inputs()));
+  if (!shown_.invalidVdd) return;
   showMessage(QMessageBox::Critical, common::product::title, "Invalid Vdd");
   VddPointTyped = false;
   tVdd->setFocus();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "calc/comparator.h"
 #include "ui/entry_field.h"
 #include "ui/widgets.h"
 
@@ -15,6 +16,9 @@ private:
   void connectEvents();
   void Form_Load();
 
+  [[nodiscard]] calc::ComparatorInputs inputs() const;
+  void show(const calc::ComparatorShown& shown);
+
   // Reads supply and range and rewrites both range labels and the column of voltages.
   void CalcVref();
 
@@ -27,6 +31,7 @@ private:
   ui::ResultColumn* Text1;
   ui::ResultColumn* tVref;
 
+  calc::ComparatorShown shown_;
   bool VddPointTyped = false;
 };
 

@@ -26,6 +26,7 @@ TEST(Comparator, ShowsRangesAndVoltagesOfAValidSupply) {
         Case{{-4, VrefRange::Low}, "0.000 - -2.500 Volt|-1.000 - -2.875 Volt|"}}) {
     shown = next(shown, inputs);
     if (texts != nullptr) kept = texts;
+    EXPECT_EQ(shown.invalidVdd, texts == nullptr) << inputs.vdd;
     EXPECT_EQ(joined(shown.lowRange, shown.highRange, shown.vref).substr(0, kept.size()), kept)
         << inputs.vdd;
   }

@@ -27,18 +27,5 @@ TEST(KeyFilter, PassesDigitsBackspaceAndOnePoint) {
   EXPECT_EQ(typed(wholeNumberKey, keys), U"123\x08");
 }
 
-TEST(KeyFilter, ReportsOnlyEnterAsEnterAndKeepsTheFlag) {
-  for (const Filter filter : {Filter{decimalKey}, Filter{wholeNumberKey}}) {
-    for (const bool flag : {false, true}) {
-      const KeyVerdict enter = filter(13, flag);
-      EXPECT_TRUE(enter.enter);
-      EXPECT_FALSE(enter.accepted);
-      EXPECT_EQ(enter.pointTyped, flag);
-      EXPECT_FALSE(filter(U'5', flag).enter);
-      EXPECT_FALSE(filter(10, flag).enter);
-    }
-  }
-}
-
 }  // namespace
 }  // namespace tarnwick::common

@@ -107,17 +107,6 @@ TEST(NumberText, IsAsShortAsFifteenDigitsAllow) {
     EXPECT_EQ(numberText(value), text) << value;
 }
 
-TEST(NumberText, WritesTheDigitsOfTheCLibrary) {
-  std::mt19937_64 random(2);
-  for (int turn = 0; turn < 50'000; ++turn) {
-    const double value = randomValue(random, turn);
-    if (!std::isfinite(value) || value == 0) continue;
-    char text[40];
-    std::snprintf(text, sizeof text, "%.15G", value);
-    ASSERT_EQ(numberText(value), text);
-  }
-}
-
 TEST(WholeText, WritesEveryWholeNumber) {
   EXPECT_EQ(wholeText(0) + wholeText(-128), "0-128");
   EXPECT_EQ(wholeText(std::numeric_limits<std::int64_t>::min()), "-9223372036854775808");
