@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace tarnwick::ui {
 
@@ -29,6 +30,27 @@ QRect placeBeside(const QRect& launcher, QSize window, const QRect& screen,
   if (const auto free = std::ranges::find_if(places, isFree); free != places.end()) return *free;
   if (const auto any = std::ranges::find_if(places, isOnScreen); any != places.end()) return *any;
   return at(std::max(screen.right() + 1 - window.width(), screen.left()), top);
+}
+
+void padToDevicePixels(QWidget& window) {
+  QLayout* layout = window.layout();
+  const QMargins around = layout->contentsMargins();
+  if (around.isNull()) return;
+  const double scale = window.devicePixelRatio();
+  const int step = qRound(scale);  // in device pixels: the toolkit asks desktops for no less
+  const auto missing = [&](int length) {
+    constexpr int most = 20;  // enough for every factor in steps of a tenth or a quarter
+    for (int more = 0; more <= most; ++more) {
+      const double steps = (length + more) * scale / step;
+      if (std::abs(steps - std::round(steps)) < 1e-6) return more;
+    }
+    return 0;
+  };
+  const QSize whole = window.sizeHint();
+  const int right = missing(whole.width());
+  const int bottom = missing(whole.height());
+  layout->setContentsMargins(
+      around + QMargins(right / 2, bottom / 2, right - right / 2, bottom - bottom / 2));
 }
 
 QScrollArea* scrollIfTooLarge(QWidget& window) {

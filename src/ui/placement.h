@@ -13,6 +13,11 @@ namespace tarnwick::ui {
 [[nodiscard]] QRect placeBeside(const QRect& launcher, QSize window, const QRect& screen,
                                 const QList<QRect>& others);
 
+// Gives a window the few pixels more that make its size a whole number of the screen's: rounded by
+// the desktop, it would move its controls once it is shown. A window without margins, whose picture
+// reaches its edges, stays as it is. Called once, before a window is first shown.
+void padToDevicePixels(QWidget& window);
+
 // Lets a window that is larger than the usable area of its screen scroll, and be resized up to its
 // whole size; answers what it scrolls in. Answers nothing where the window fits. Called once,
 // before the window is first shown.

@@ -73,7 +73,10 @@ Window::~Window() {
 }
 
 void Window::bringForward() {
-  if (scrolls_ == nullptr && !isVisible()) scrolls_ = scrollIfTooLarge(*this);
+  if (windowHandle() == nullptr) {
+    padToDevicePixels(*this);
+    scrolls_ = scrollIfTooLarge(*this);
+  }
   setWindowState(windowState() & ~Qt::WindowMinimized);
   show();
   raise();

@@ -14,7 +14,8 @@ constexpr std::array keys{
     Qt::Key_0,    Qt::Key_1,    Qt::Key_5,  Qt::Key_6,     Qt::Key_9,      Qt::Key_Period,
     Qt::Key_0,    Qt::Key_4,    Qt::Key_E,  Qt::Key_Minus, Qt::Key_Return, Qt::Key_Backspace,
     Qt::Key_Tab,  Qt::Key_Tab,  Qt::Key_V,  Qt::Key_Enter, Qt::Key_Escape, Qt::Key_Backtab,
-    Qt::Key_Left, Qt::Key_Down, Qt::Key_F4, Qt::Key_Space, Qt::Key_PageUp, Qt::Key_Home};
+    Qt::Key_Left, Qt::Key_Down, Qt::Key_F4, Qt::Key_Space, Qt::Key_PageUp, Qt::Key_Home,
+    Qt::Key_W,    Qt::Key_Q,    Qt::Key_C,  Qt::Key_R};
 
 // No text here holds the letters of "inf" or "nan": a field that shows them made them up itself.
 constexpr std::array texts{"0",     "1",     "4",       "64",   "100",   "9600",   ".",
@@ -66,7 +67,8 @@ private:
   void pressKey(Qt::Key key) {
     const char code = QTest::keyToAscii(key);
     const QString text = code == 0 ? "" : QString(QLatin1Char(code));
-    const auto modifier = below(9) == 0 ? Qt::ControlModifier : Qt::NoModifier;
+    constexpr std::array held{Qt::ControlModifier, Qt::AltModifier};
+    const auto modifier = below(9) == 0 ? oneOf(held) : Qt::NoModifier;
     const QPointer<QWindow> focus = QGuiApplication::focusWindow();
     for (const bool down : {true, false})
       if (focus != nullptr) QTest::simulateEvent(focus, down, key, modifier, text, false);

@@ -17,6 +17,8 @@
 #include <windows.h>
 #endif
 
+#include <map>
+
 namespace tarnwick::tests {
 namespace {
 
@@ -182,15 +184,21 @@ void Program::confirmMessage() {
   turnToWindow(current_);
 }
 
-// Each window opens at the size that it keeps, but for the rounding at fractional scale factors.
+// Each window opens with its controls where they stay.
 void EveryWindow::openAll() {
+  const auto placesIn = [](const QWidget* window) {
+    std::map<std::string, QRect> places;
+    for (const QWidget* control : controlsOf(window))
+      places[fullName(control)] = control->geometry();
+    return places;
+  };
   all.clear();
   for (const char* name : windowNames) {
     windows.open(name);
-    const QSize size = window(name)->size();
+    const auto opened = placesIn(window(name));
     turnTo(name);
-    const QSize grown = current()->size() - size;
-    EXPECT_LE(std::abs(grown.width()) + std::abs(grown.height()), 2) << name;
+    for (const auto& [control, place] : placesIn(current()))
+      EXPECT_EQ(place, opened.at(control)) << control;
     all.push_back(current());
   }
 }
