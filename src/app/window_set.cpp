@@ -28,6 +28,7 @@ void WindowSet::open(std::string_view name, const QWidget* launcher) {
       entry.window->deleteLater();
       entry.window = nullptr;
     });
+    entry.window->fitToScreen();
     if (launcher != nullptr) place(entry, *launcher);
   }
   entry.window->bringForward();
@@ -40,7 +41,7 @@ void WindowSet::place(const Entry& entry, const QWidget& launcher) {
   for (const QWidget* other : QApplication::topLevelWidgets())
     if (other->isVisible()) others << other->frameGeometry();
   const QSize frame = launcher.frameGeometry().size() - launcher.size();
-  window.move(ui::placeBeside(launcher.frameGeometry(), window.sizeHint() + frame,
+  window.move(ui::placeBeside(launcher.frameGeometry(), window.size() + frame,
                               launcher.screen()->availableGeometry(), others)
                   .topLeft());
 }

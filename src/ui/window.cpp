@@ -72,11 +72,13 @@ Window::~Window() {
   disconnect(qApp, nullptr, this, nullptr);
 }
 
+void Window::fitToScreen() {
+  padToDevicePixels(*this);
+  scrolls_ = scrollIfTooLarge(*this);
+  if (scrolls_ == nullptr) adjustSize();
+}
+
 void Window::bringForward() {
-  if (windowHandle() == nullptr) {
-    padToDevicePixels(*this);
-    scrolls_ = scrollIfTooLarge(*this);
-  }
   setWindowState(windowState() & ~Qt::WindowMinimized);
   show();
   raise();

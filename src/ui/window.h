@@ -30,8 +30,11 @@ public:
   Window(std::string_view name, std::string_view caption);
   ~Window() override;
 
-  // Shows the window, or brings it forward when it is open or minimised. One that is larger than
-  // its screen scrolls, and shows the control that has the focus.
+  // Gives the window the size at which it is to be shown; one that is larger than its screen
+  // scrolls, and shows the control that has the focus. Called once, when its controls are laid out.
+  void fitToScreen();
+
+  // Shows the window, or brings it forward when it is open or minimised.
   void bringForward();
 
   // Lets keys close the window.
