@@ -40,7 +40,9 @@ void WindowSet::place(const Entry& entry, const QWidget& launcher) {
   QList<QRect> others;
   for (const QWidget* other : QApplication::topLevelWidgets())
     if (other->isVisible()) others << other->frameGeometry();
-  const QSize frame = launcher.frameGeometry().size() - launcher.size();
+  QSize frame = launcher.frameGeometry().size() - launcher.size();
+  constexpr QSize handles(8, 8);  // that the frame of a window has that can be resized
+  if (window.minimumSize() != window.maximumSize()) frame += handles;
   window.move(ui::placeBeside(launcher.frameGeometry(), window.size() + frame,
                               launcher.screen()->availableGeometry(), others)
                   .topLeft());

@@ -41,7 +41,7 @@ struct RateTexts {
 
 // Answers the SPBRG value whose count comes nearest to what the baud rate (Bd) needs at the
 // oscillator frequency (MHz); an exact half goes to the even value. It is not limited to what a
-// register takes, and not finite for a rate of 0 or where a product overflows.
+// register takes; it is not finite for a rate of 0, and -1 where the divisor's product overflows.
 // Source: data sheets, "Baud Rate Formula": rate = Fosc / (D (SPBRG + 1)).
 [[nodiscard]] double SpbrgFor(double foscMHz, double baud, double divisor);
 

@@ -69,10 +69,11 @@ void showFinal(EusartShown& shown, const Group& group, const Group& group16) {
 void showNoMatch(EusartShown& shown) {
   shown.canCopy = false;
   shown.canLocate = false;
-  const std::string spbrgh = shown.finalMatch.texts.spbrgh;
-  shown.finalMatch = {};
-  shown.finalMatch.texts.spbrgh = spbrgh;
+  const EusartMatch before = std::exchange(shown.finalMatch, {});
+  shown.finalMatch.texts.spbrgh = before.texts.spbrgh;
+  shown.finalMatch.registers.high = before.registers.high;
   shown.brg16Text.clear();
+  shown.FinalBRG16 = true;
 }
 
 }  // namespace

@@ -24,7 +24,7 @@ struct SpbrgBytes {
   int high = 0;  // 0 to 255
 };
 
-// A best match: its fields, and the numbers and the flag for which those of its registers stand.
+// A best match: its fields, and as numbers and a flag what those of its registers read as.
 struct EusartMatch {
   RateTexts texts;
   std::string brghText;  // "0" or "1"; the field trSPBRGH shows it, whatever its name says
@@ -36,11 +36,11 @@ struct EusartMatch {
 // before (docs/ON_PURPOSE.md).
 struct EusartShown {
   std::array<RateTexts, 4> rows;
-  EusartMatch best;         // of the BRG16 = 0 rows
-  EusartMatch best16;       // of the BRG16 = 1 rows
-  EusartMatch finalMatch;   // the better of the two
-  std::string brg16Text;    // "0" or "1", of the final match
-  bool FinalBRG16 = false;  // for which that stands
+  EusartMatch best;        // of the BRG16 = 0 rows
+  EusartMatch best16;      // of the BRG16 = 1 rows
+  EusartMatch finalMatch;  // the better of the two
+  std::string brg16Text;   // "0" or "1", of the final match
+  bool FinalBRG16 = true;  // as the copied texts take it: also where the text is empty
   bool canCopy = false;
   bool canLocate = true;  // the BRG16 location can be chosen
 };

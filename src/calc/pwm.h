@@ -33,7 +33,7 @@ struct PwmMatches {
 };
 
 struct PwmDutyValue {
-  double Register = 0;  // duty register value, 0..MaxDutyVal
+  double Register = 0;  // duty register value, 0..MaxDutyVal from 0 to 100 %
   double Duty = 0;      // achieved duty cycle, percent
 };
 

@@ -42,8 +42,8 @@ struct PreloadSlider {
 
 // Answers how often the timer overflows. The timer counts instruction cycles (Fosc / 4) through its
 // prescaler from the preload to its overflow; the reload cycles are added once a period, not scaled
-// by the prescaler, since writing the timer happens in instruction cycles. An oscillator of 0 or a
-// period of 0 gives results that are not finite; nothing else is refused.
+// by the prescaler, since writing the timer happens in instruction cycles. Nothing is refused: an
+// oscillator of 0, a period of 0 and what exceeds a double give results that are not finite.
 // Source: mid-range family reference manual, Timer0 and Timer1 modules.
 [[nodiscard]] TimerResult timerResult(const TimerInputs& inputs);
 

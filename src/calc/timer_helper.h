@@ -36,7 +36,7 @@ struct TimerGoal {
   double Fcy = 0;   // instruction clock, MHz
   double Rt = 0;    // reload time, us
   double Deff = 0;  // the part of the wanted period that the timer itself counts, us
-  Delay wanted;     // as entered
+  Delay wanted;     // in the unit in which it is shown
 };
 
 // A prescaler and a preload that come close enough to the wanted period or frequency.

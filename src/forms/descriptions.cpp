@@ -27,9 +27,9 @@ constexpr std::string_view bestBaud = "Rate of the best match, in Bd or KBaud";
 constexpr std::string_view bestError = "Error of the best match in percent";
 constexpr std::string_view bestBrgh = "Bit BRGH of the best match: 1 is high speed";
 constexpr std::string_view copyRegister =
-    "Copies the assignments that set the baud rate generator's registers to the best match";
+    "Copies the assignments that enable the serial port and set its rate to the best match";
 constexpr std::string_view copyDefine =
-    "Copies the PBP DEFINE lines of the best match for the hardware serial port";
+    "Copies the PBP lines that set up the hardware serial port for the best match";
 
 constexpr std::array timer{
     Description{"tOSC", oscillator},
@@ -39,7 +39,7 @@ constexpr std::array timer{
     Description{"tPreLoad",
                 "Value for the timer register before each period, 0 to 255 with 8 bits, "
                 "0 to 65535 with 16 bits"},
-    Description{"scrollpreload", "Sets the preload, over the whole range of the timer register"},
+    Description{"scrollpreload", "Sets the preload, 0 to 255 with 8 bits, 0 to 65535 with 16 bits"},
     Description{"tReload", reload},
     Description{"scrollreload", slideReload},
     Description{"tFosc", "Instruction clock in MHz, a quarter of the oscillator frequency"},
@@ -95,7 +95,7 @@ constexpr std::array pwm{
     Description{"tCalc", "PWM frequency of each match, in the unit chosen"},
     Description{"tPrescaler", timer2Prescaler},
     Description{"tResolution", "Resolution of the duty cycle in bits, 1 to 10"},
-    Description{"trMaxPR2", "Value of the duty register for 100 percent"},
+    Description{"trMaxPR2", "Value of the duty register for 100 percent, up to 1024"},
     Description{"trDutyStep", "Duty cycle of one count of the duty register, in percent"},
     Description{"tPrescaler2", timer2Prescaler},
     Description{"tPR2", "Value for the period register PR2, 0 to 255"},
@@ -156,8 +156,9 @@ constexpr std::array eusart{
     Description{"trSPBRGH16", bestBrgh},
     Description{"tfERR", bestError},
     Description{"tfCalcBaud", bestBaud},
-    Description{"tfSPBRG", lowByte},
-    Description{"TSPBRGH", highByte},
+    Description{"tfSPBRG", "Value for the register SPBRG, the low byte with BRG16 = 1, 0 to 255"},
+    Description{"TSPBRGH",
+                "High byte of the value, for the register SPBRGH, 0 to 255; empty with BRG16 = 0"},
     Description{"tfBRGH", bestBrgh},
     Description{"tfBRG16", "Bit BRG16 of the best match: 1 joins SPBRGH and SPBRG to 16 bits"},
     Description{"cCopyRegister", copyRegister},
@@ -198,6 +199,8 @@ constexpr std::array comparator{
     Description{"tVdd", "Supply voltage Vdd in Volt, above 0 to 5.25"},
     Description{"oVrefRange(1)", "The low range, in steps of Vdd / 24 from 0"},
     Description{"oVrefRange(2)", "The high range, in steps of Vdd / 32 from Vdd / 4"},
+    Description{"tLabelLowRange", "Lowest and highest voltage of the low range"},
+    Description{"tLabelHighRange", "Lowest and highest voltage of the high range"},
     Description{"Text1", "The four bits CVR that choose the voltage, binary"},
     Description{"tVref", "Reference voltage of each value of CVR, in Volt"},
 };

@@ -117,13 +117,18 @@ void fEUSART::show(calc::EusartShown shown) {
   final_.show(shown_.finalMatch.texts);
   tfBRGH->setContents(shown_.finalMatch.brghText);
   tfBRG16->setContents(shown_.brg16Text);
+  dropBRG16->setEnabled(shown_.canLocate);
+  enableCopying();
+}
+
+void fEUSART::enableCopying() {
   CopyClip->setEnabled(shown_.canCopy);
   cCopyRegister->setEnabled(shown_.canCopy);
-  dropBRG16->setEnabled(shown_.canLocate);
 }
 
 void fEUSART::dropBRG16_Click() {
-  show(calc::locationChosen(shown_, dropBRG16->contents()));
+  shown_ = calc::locationChosen(std::move(shown_), dropBRG16->contents());
+  enableCopying();
 }
 
 void fEUSART::cCopyRegister_Click() {

@@ -22,6 +22,7 @@ private:
   void Form_Load();
   void CalcEUSART();
   void show(calc::EusartShown shown);
+  void enableCopying();
   void copy(std::string text);
 
   void dropBRG16_Click();

@@ -139,7 +139,7 @@ void fSerinSerout2::placeMode(int labelLeft) {
 }
 
 void fSerinSerout2::tBaud_Validate() {
-  if (tBaud->contents().empty() || tBaud->number() == 0) tBaud->setContents("9600");
+  if (tBaud->number() == 0) tBaud->setContents("9600");
   CalcMode();
 }
 

@@ -25,7 +25,8 @@ std::string_view sentenceOf(std::string_view control, std::span<const Descriptio
 // The text of a field or a column that is not seen whole; otherwise nothing.
 QString cutText(QWidget& control) {
   QString text;
-  int room = control.contentsRect().width();
+  constexpr int margins = 2 * 4;  // of a field's frame and text
+  int room = control.width() - margins;
   if (const auto* field = qobject_cast<const QLineEdit*>(&control)) {
     text = field->text();
   } else if (const auto* column = qobject_cast<const QPlainTextEdit*>(&control)) {

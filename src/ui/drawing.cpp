@@ -50,6 +50,11 @@ QColor frameColor(const QPalette& palette) {
   return distinct(ground, ground, seen);
 }
 
+QColor markColor(const QPalette& palette) {
+  constexpr double tint = 0.25;
+  return between(palette.color(QPalette::Window), palette.color(QPalette::Highlight), tint);
+}
+
 QColor focusColor(const QPalette& palette) {
   return distinct(palette.color(QPalette::Highlight), palette.color(QPalette::Window),
                   edgeContrast);

@@ -29,6 +29,9 @@ inline constexpr double edgeContrast = 3;
 // edge of a field that takes an entry.
 [[nodiscard]] QColor frameColor(const QPalette& palette);
 
+// Answers the ground of a line that is marked as the best or the current one.
+[[nodiscard]] QColor markColor(const QPalette& palette);
+
 // Answers the colour of the frame of what has the focus.
 [[nodiscard]] QColor focusColor(const QPalette& palette);
 

@@ -5,6 +5,7 @@
 #include "ui/widgets.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QContextMenuEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
@@ -12,6 +13,7 @@
 #include <QMouseEvent>
 
 #include <algorithm>
+#include <utility>
 
 namespace tarnwick::ui {
 namespace {
@@ -104,6 +106,7 @@ QString EntryField::filtered(const QString& characters) {
     pointTyped = verdict.pointTyped;
     if (verdict.accepted && character != erase) accepted += character;
     if (!verdict.enter) continue;
+    if (!accepted.isEmpty()) insert(std::exchange(accepted, {}));
     emit validate();
     emit entered();
     if (isCurrent()) selectAll();
@@ -143,7 +146,7 @@ void EntryField::inputMethodEvent(QInputMethodEvent* event) {
 
 // In a window that is not active yet the press comes before the focus.
 void EntryField::mousePressEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton) {
+  if (event->button() == Qt::LeftButton || event->button() == Qt::MiddleButton) {
     const bool untouched = visit_ == Visit::Fresh && selectedText() == text();
     const bool first = visit_ == Visit::None || untouched;
     mouse_ = first && event->modifiers() == Qt::NoModifier ? Mouse::ClicksFirst : Mouse::Selects;
@@ -160,7 +163,11 @@ void EntryField::mouseMoveEvent(QMouseEvent* event) {
   if (mouse_ == Mouse::Selects) QLineEdit::mouseMoveEvent(event);
 }
 
+// A middle click pastes, where a desktop has it: as the first click, over the whole number.
 void EntryField::mouseReleaseEvent(QMouseEvent* event) {
+  const bool replaces = event->button() == Qt::MiddleButton && mouse_ == Mouse::ClicksFirst;
+  const QString pasted = QGuiApplication::clipboard()->text(QClipboard::Selection);
+  if (replaces && !pasted.isEmpty()) clear();
   QLineEdit::mouseReleaseEvent(event);
   if (event->button() != Qt::LeftButton) return;
   if (mouse_ == Mouse::ClicksFirst && isCurrent()) selectAll();
@@ -173,6 +180,17 @@ void EntryField::mouseDoubleClickEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
   mouse_ = Mouse::ClicksTwice;
   selectAll();
+}
+
+void EntryField::paintEvent(QPaintEvent* event) {
+  QLineEdit::paintEvent(event);
+  drawExceeded(*this);
+}
+
+// The click that brings a window to the front is a first one again.
+void EntryField::focusOutEvent(QFocusEvent* event) {
+  QLineEdit::focusOutEvent(event);
+  if (event->reason() == Qt::ActiveWindowFocusReason) visit_ = Visit::None;
 }
 
 // Without the keys that the toolkit names beside the commands: the filter cancels them.

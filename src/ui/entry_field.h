@@ -66,6 +66,8 @@ protected:
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
 
 private:
   // Passes the characters through the key filter and answers those that may be inserted.
@@ -80,7 +82,7 @@ private:
   bool writing_ = false;
   // Whether the user is in the field, and has clicked in it since coming there.
   enum class Visit { None, Fresh, Clicked } visit_ = Visit::None;
-  // What the mouse does while the left button is held down.
+  // What the mouse does while a button is held down.
   enum class Mouse { Selects, ClicksFirst, ClicksTwice } mouse_ = Mouse::Selects;
   QPoint pressed_;
 };

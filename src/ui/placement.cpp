@@ -1,5 +1,6 @@
 #include "ui/placement.h"
 
+#include <QEvent>
 #include <QLayout>
 #include <QScreen>
 #include <QScrollBar>
@@ -31,6 +32,22 @@ QRect placeBeside(const QRect& launcher, QSize window, const QRect& screen,
   if (const auto any = std::ranges::find_if(places, isOnScreen); any != places.end()) return *any;
   return at(std::max(screen.right() + 1 - window.width(), screen.left()), top);
 }
+
+namespace {
+
+// Keeps wheel steps from a control, so that they reach what it scrolls in.
+class WheelGuard : public QObject {
+public:
+  using QObject::QObject;
+
+  bool eventFilter(QObject*, QEvent* event) override {
+    const bool isWheel = event->type() == QEvent::Wheel;
+    if (isWheel) event->ignore();
+    return isWheel;
+  }
+};
+
+}  // namespace
 
 void padToDevicePixels(QWidget& window) {
   QLayout* layout = window.layout();
@@ -69,12 +86,24 @@ QScrollArea* scrollIfTooLarge(QWidget& window) {
   around->setContentsMargins(0, 0, 0, 0);
   around->addWidget(area);
 
+  auto* guard = new WheelGuard(area);
+  for (auto* control : content->findChildren<QWidget*>())
+    if (control->inherits("QComboBox") || control->inherits("QSlider"))
+      control->installEventFilter(guard);
+
   const int bar = area->verticalScrollBar()->sizeHint().width();
   const QSize most = whole + QSize(whole.height() > room.height() ? bar : 0,
                                    whole.width() > room.width() ? bar : 0);
   window.setMaximumSize(most);
   window.resize(most.boundedTo(room));
   return area;
+}
+
+void bringIntoView(QScrollArea& area, const QWidget& control) {
+  constexpr int around = 6;
+  const QRect place(control.mapTo(area.widget(), QPoint()), control.size());
+  area.ensureVisible(place.right(), place.bottom(), around, around);
+  area.ensureVisible(place.left(), place.top(), around, around);
 }
 
 }  // namespace tarnwick::ui

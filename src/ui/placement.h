@@ -19,8 +19,11 @@ namespace tarnwick::ui {
 void padToDevicePixels(QWidget& window);
 
 // Lets a window that is larger than the usable area of its screen scroll, and be resized up to its
-// whole size; answers what it scrolls in. Answers nothing where the window fits. Called once,
-// before the window is first shown.
+// whole size; answers what it scrolls in. The wheel then scrolls, and leaves lists and sliders
+// alone. Answers nothing where the window fits. Called once, before the window is first shown.
 QScrollArea* scrollIfTooLarge(QWidget& window);
+
+// Scrolls until a control is seen whole, where there is room for it.
+void bringIntoView(QScrollArea& area, const QWidget& control);
 
 }  // namespace tarnwick::ui

@@ -1,16 +1,18 @@
 #include "ui/result_look.h"
 
+#include "ui/drawing.h"
+
 #include <QEvent>
 
 namespace tarnwick::ui {
 namespace {
 
-// A text's colour, brought nearer to its ground; against usual ones 4.5 : 1 of contrast are left.
-QColor dimmed(const QColor& text, const QColor& ground) {
-  constexpr float share = 0.58F;
-  const auto mix = [](float one, float other) { return share * one + (1 - share) * other; };
-  return QColor::fromRgbF(mix(text.redF(), ground.redF()), mix(text.greenF(), ground.greenF()),
-                          mix(text.blueF(), ground.blueF()));
+// The colour of a text that is out of date: nearer to its ground, and still to be read, also where
+// a line is marked.
+QColor dimmed(const QColor& text, const QPalette& palette) {
+  constexpr double share = 0.42;
+  const QColor nearer = between(text, palette.color(QPalette::Window), share);
+  return distinct(nearer, markColor(palette), textContrast);
 }
 
 ResultLook* lookOf(QWidget* result) {
@@ -44,7 +46,7 @@ void ResultLook::apply() {
   const bool isLabel = qobject_cast<QLabel*>(result_) != nullptr;
   if (!isLabel) own.setBrush(QPalette::Base, own.brush(QPalette::Window));
   const auto text = isLabel ? QPalette::WindowText : QPalette::Text;
-  if (!reasons_.empty()) own.setColor(text, dimmed(own.color(text), own.color(QPalette::Window)));
+  if (!reasons_.empty()) own.setColor(text, dimmed(own.color(text), own));
   result_->setPalette(own);
 }
 

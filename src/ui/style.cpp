@@ -67,6 +67,12 @@ public:
         palette.setColor(
             group, text,
             distinct(palette.color(group, text), palette.color(group, ground), textContrast));
+    // A button is painted lighter than its colour.
+    constexpr int painted = 124;  // percent
+    const QColor button = palette.color(QPalette::Button).lighter(painted);
+    const QColor disabled = palette.color(QPalette::Disabled, QPalette::ButtonText);
+    palette.setColor(QPalette::Disabled, QPalette::ButtonText,
+                     distinct(disabled, button, textContrast));
   }
   using QProxyStyle::polish;
 

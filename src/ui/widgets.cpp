@@ -146,10 +146,6 @@ ResultField::ResultField(QWidget* parent, std::string_view name, std::string_vie
           [this](const QString& shown) { setTabStop(*this, !shown.isEmpty()); });
 }
 
-std::string ResultField::contents() const {
-  return fromQt(text());
-}
-
 // The field may have just got the focus from an entry that is validated: what the Tab key selected
 // stays selected, which with some styles is all that shows the focus.
 void ResultField::setContents(std::string_view text) {
@@ -234,10 +230,7 @@ void ResultColumn::paintEvent(QPaintEvent* event) {
         blockBoundingGeometry(document()->findBlockByNumber(*best_)).translated(contentOffset());
     band.setLeft(0);
     band.setWidth(viewport()->width());
-    constexpr double tint = 0.25;
-    QPainter(viewport())
-        .fillRect(band, between(palette().color(QPalette::Base),
-                                palette().color(QPalette::Highlight), tint));
+    QPainter(viewport()).fillRect(band, markColor(palette()));
   }
   QPlainTextEdit::paintEvent(event);
 }

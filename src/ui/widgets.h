@@ -61,7 +61,6 @@ public:
   ResultField(QWidget* parent, std::string_view name, std::string_view widest,
               Weight weight = Weight::Usual);
 
-  [[nodiscard]] std::string contents() const;
   void setContents(std::string_view text);
   [[nodiscard]] QSize sizeHint() const override;
 

@@ -112,7 +112,7 @@ void Window::followFocus(QWidget* now) {
   if (FocusListener* control = listener(left)) control->focusLeft();
   if (QApplication::focusWidget() != now) return;
   current_ = now;
-  if (scrolls_ != nullptr) scrolls_->ensureWidgetVisible(now);
+  if (scrolls_ != nullptr) bringIntoView(*scrolls_, *now);
   if (FocusListener* control = listener(now)) control->focusEntered();
 }
 

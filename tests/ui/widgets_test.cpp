@@ -1,8 +1,10 @@
+#include "support/look.h"
 #include "support/program.h"
 #include "ui/desktop.h"
 
 #include <QClipboard>
 #include <QInputMethodEvent>
+#include <QScrollArea>
 #include <QSlider>
 #include <QWheelEvent>
 
@@ -13,12 +15,13 @@ using Widgets = Program;
 
 TEST_F(Widgets, EntryFieldTakesCharactersFromInputMethodsThroughTheFilter) {
   open("cAD", "fMinADTime");
-  for (const auto& [text, focus] : {std::pair("1٣,.5\b.", "tOSC"), {"\r", "tImpedance"}}) {
+  for (const auto& [text, typed, focus] :
+       {std::tuple("1٣,.5\b.", "1.5", "tOSC"), {"4\r", "4", "tImpedance"}}) {
     QInputMethodEvent event;
     event.setCommitString(text);
     control<QLineEdit>("tOSC")->selectAll();
     QCoreApplication::sendEvent(control("tOSC"), &event);
-    EXPECT_EQ(shown("tOSC"), "1.5");
+    EXPECT_EQ(shown("tOSC"), typed);
     EXPECT_EQ(focused(), focus);
   }
 }
@@ -73,6 +76,20 @@ TEST_F(Widgets, SliderTakesLongStepsInALongRange) {
     press(Qt::Key_Right);
     EXPECT_EQ(shown("tPreLoad"), std::to_string(page + 1));
   }
+}
+
+// Off screen the window is wider than its screen.
+TEST_F(Widgets, ScrolledWindowShowsWhatHasTheFocus) {
+  open("cCustomChar", "fCustomCharacter");
+  if (current()->findChild<QScrollArea*>() == nullptr) GTEST_SKIP() << "all of it is seen";
+  for (auto* control : controlsOf(current())) {
+    if (control->focusPolicy() == Qt::NoFocus || !control->isEnabled() || isCell(control)) continue;
+    control->setFocus();
+    EXPECT_EQ(control->visibleRegion().boundingRect(), control->rect()) << fullName(control);
+  }
+  QWheelEvent event({9, 9}, {9, 9}, {}, {0, -120}, {}, {}, {}, false);
+  QCoreApplication::sendEvent(control("PortData"), &event);
+  EXPECT_EQ(shown("PortData"), "PORTB");
 }
 
 TEST(OnDisplayClipboard, KeepsCarriageReturnsForOtherPrograms) {
