@@ -107,6 +107,7 @@ EusartShown next(EusartShown shown, const EusartInputs& inputs) {
 EusartShown next(EusartShown shown, const std::optional<EusartRows>& rows, bool kBaud,
                  bool hasLocation) {
   shown.rows = {};
+  shown.matchesAreOld = true;
   if (!rows) {
     shown.canCopy = false;
     return shown;
@@ -121,6 +122,7 @@ EusartShown next(EusartShown shown, const std::optional<EusartRows>& rows, bool 
     showNoMatch(shown);
     return shown;
   }
+  shown.matchesAreOld = false;
   showBest(shown, group);
   showBest16(shown, group16);
   showFinal(shown, group, group16);

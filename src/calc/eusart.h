@@ -41,6 +41,7 @@ struct EusartShown {
   EusartMatch finalMatch;  // the better of the two
   std::string brg16Text;   // "0" or "1", of the final match
   bool FinalBRG16 = true;  // as the copied texts take it: also where the text is empty
+  bool matchesAreOld = false;  // the matches are of an earlier calculation than the rows
   bool canCopy = false;
   bool canLocate = true;  // the BRG16 location can be chosen
 };

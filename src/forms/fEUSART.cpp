@@ -117,6 +117,7 @@ void fEUSART::show(calc::EusartShown shown) {
   final_.show(shown_.finalMatch.texts);
   tfBRGH->setContents(shown_.finalMatch.brghText);
   tfBRG16->setContents(shown_.brg16Text);
+  ui::showOutOfDate(ui::resultsOf(*this), this, shown_.matchesAreOld);  // no row is shown then
   dropBRG16->setEnabled(shown_.canLocate);
   enableCopying();
 }

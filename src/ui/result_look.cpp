@@ -68,6 +68,10 @@ void Dimming::update() {
   for (ResultLook* look : looks_) look->setOutOfDate(this, field_->number() != number_);
 }
 
+void showOutOfDate(const QWidgetList& results, const QObject* reason, bool outOfDate) {
+  for (QWidget* result : results) lookOf(result)->setOutOfDate(reason, outOfDate);
+}
+
 QWidgetList resultsOf(const QWidget& window) {
   QWidgetList results;
   for (auto* field : window.findChildren<ResultField*>()) results << field;

@@ -50,6 +50,9 @@ private:
 // Answers the result fields and columns of a window.
 [[nodiscard]] QWidgetList resultsOf(const QWidget& window);
 
+// Dims results, or takes a reason to dim them back.
+void showOutOfDate(const QWidgetList& results, const QObject* reason, bool outOfDate);
+
 // Dims results while the field is edited; when the first of them is written, all are true again.
 template <typename Result>
 void dimWhileEdited(EntryField* field, Result* first, const QWidgetList& others = {}) {

@@ -68,6 +68,20 @@ TEST_F(Launcher, OpensEachWindowOnceAndBringsItForward) {
   EXPECT_TRUE(window("fMain")->isVisible());
 }
 
+using OnDisplayWindows = Program;
+
+TEST_F(OnDisplayWindows, ComeBackWhereTheyStood) {
+  open("cTimer", "fTimer");
+  current()->move(300, 200);
+  QTest::qWait(200);
+  const QRect stood = current()->frameGeometry();
+  for (int i = 0; i < 2; ++i) {
+    current()->close();
+    open("cTimer", "fTimer");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return current()->frameGeometry() == stood; }, 1000));
+  }
+}
+
 TEST_F(Launcher, ShowsTheCommandThatTheKeyboardOrTheMouseHas) {
   auto* menu = window("fMain")->findChild<QMenuBar*>();
   const auto look = [&](int command) {
