@@ -86,11 +86,11 @@ QScrollArea* scrollIfTooLarge(QWidget& window) {
   around->setContentsMargins(0, 0, 0, 0);
   around->addWidget(area);
 
-  auto* guard = new WheelGuard(area);
+  auto* guard = new WheelGuard(area);  // which owns it
   for (auto* control : content->findChildren<QWidget*>())
     if (control->inherits("QComboBox") || control->inherits("QSlider"))
       control->installEventFilter(guard);
-
+  // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks)
   const int bar = area->verticalScrollBar()->sizeHint().width();
   const QSize most = whole + QSize(whole.height() > room.height() ? bar : 0,
                                    whole.width() > room.width() ? bar : 0);
