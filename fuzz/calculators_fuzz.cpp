@@ -3,6 +3,7 @@
 // number that does not fit one (the sanitizers watch that).
 
 #include "calc/adc.h"
+#include "calc/character_text.h"
 #include "calc/comparator.h"
 #include "calc/lcd_text.h"
 #include "calc/pwm.h"
@@ -188,21 +189,30 @@ void checkLcd(FuzzedDataProvider& input) {
   std::size_t characters = 0;
   std::size_t aliases = 0;
   for (std::size_t i = 0; i < calc::slotCount; ++i) {
+    const auto pixel = input.ConsumeIntegral<std::uint8_t>();
+    if (pixel >= common::matrixPixels) continue;
     SelectSlot(set, i);
-    if (const auto pixel = input.ConsumeIntegral<std::uint8_t>(); pixel < common::matrixPixels)
-      TogglePixel(set, pixel), ++characters;
-    set.shown.slotTable[i].description = fieldText(input);
-    if (input.ConsumeBool())
-      set.shown.slotTable[i].constantAlias = "A" + fieldText(input), ++aliases;
+    TogglePixel(set, pixel), ++characters;
+    set.shown.slotTable[i].description = fieldText(input, calc::nameLength);
+    const std::string alias = fieldText(input, calc::nameLength);
+    set.shown.slotTable[i].constantAlias = alias;
+    aliases += alias.empty() ? 0 : 1;
   }
   calc::LcdSettings settings;
   for (auto setting : {&calc::LcdSettings::dataPort, &calc::LcdSettings::readWritePort,
                        &calc::LcdSettings::lines, &calc::LcdSettings::dataDelayUs})
     settings.*setting = fieldText(input);
   const bool defines = input.ConsumeBool();
+  const std::string text = BuildLcdText(settings, defines, set);
   requireLines((defines ? settings.readWritePort.empty() ? 14 : 16 : 0) +
                    (characters > 0 ? characters + 4 : 0) + (aliases > 0 ? aliases + 4 : 0),
-               {BuildLcdText(settings, defines, set)});
+               {text});
+
+  calc::CharacterSet again;
+  OpenEditor(again);
+  calc::pasteCharacters(again, text);
+  require(BuildLcdText(settings, defines, again) == text, "a copied text is read back");
+  calc::pasteCharacters(again, input.ConsumeRemainingBytesAsString());
 }
 
 }  // namespace
