@@ -20,10 +20,10 @@ protected:
 };
 
 TEST_F(LcdWindow, StandsAtItsPlaces) {
-  const QRect topLeft(place("chk(4)").topLeft(), QSize(17, 17));
+  const QRect topLeft(place("chk(4)").topLeft(), QSize(29, 29));
   for (int pixel = 0; pixel < 40; ++pixel) {
     const auto [row, column] = std::pair(pixel / 5, 4 - pixel % 5);
-    EXPECT_EQ(place(of("chk", pixel)), topLeft.translated(16 * column, 16 * row)) << pixel;
+    EXPECT_EQ(place(of("chk", pixel)), topLeft.translated(28 * column, 28 * row)) << pixel;
     auto* heard = QAccessible::queryAccessibleInterface(control(of("chk", pixel)));
     EXPECT_EQ(heard->text(QAccessible::Name),
               QString("Row %1, column %2").arg(row + 1).arg(column + 1));
