@@ -202,6 +202,7 @@ void fCustomCharacter::addCommands() {
     QAction* command = chk->addAction(QLatin1String(caption), keys, this, run);
     command->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     command->setShortcutVisibleInContextMenu(true);
+    return command;
   };
   const auto addMove = [&](const char* caption, const QKeySequence& keys, Move move) {
     add(caption, keys, [this, move] { moveCharacter(move); });
@@ -220,8 +221,10 @@ void fCustomCharacter::addCommands() {
   addMove("Turn upside down", Qt::CTRL | Qt::Key_U, Move::UpsideDown);
   add("Invert", Qt::CTRL | Qt::Key_I, [this] { cInvertAll_Click(); });
   addLine();
-  add("Copy the character", Qt::CTRL | Qt::Key_C, [this] { copyCharacter(); });
-  add("Paste", Qt::CTRL | Qt::Key_V, [this] { pasteCharacters(); });
+  QAction* copy = add("Copy the character", Qt::CTRL | Qt::Key_C, [this] { copyCharacter(); });
+  QAction* paste = add("Paste", Qt::CTRL | Qt::Key_V, [this] { pasteCharacters(); });
+  for (std::size_t i = 0; i < slotRows.size(); ++i)
+    oChar->button(static_cast<int>(i))->addActions({copy, paste});
   addLine();
   auto* undoKeys = new ui::UndoKeys(this);
   chk->addActions(undoKeys->commands());

@@ -170,13 +170,16 @@ std::optional<int> PixelGrid::pixelUnder(QPoint place) const {
       {std::min(place.y() / pitch_, rows - 1), std::min(place.x() / pitch_, columns - 1)});
 }
 
+// On a line between cells the pointer is in none of them: where it passes from one to the next
+// across a corner, it crosses no third.
 void PixelGrid::strokeTo(QPoint end) {
   const QPointF start = stroke_->at;
   const QPoint way = end - stroke_->at;
   const int steps = std::max(std::abs(way.x()), std::abs(way.y()));
-  for (int i = 0; i <= steps; ++i) {
-    const QPointF place = start + QPointF(way) * i / std::max(steps, 1);
-    if (const auto pixel = pixelUnder(place.toPoint())) paint(*pixel, stroke_->on);
+  for (int i = 1; i <= steps; ++i) {
+    const QPoint place = (start + QPointF(way) * i / steps).toPoint();
+    const bool onLine = place.x() % pitch_ < sharedLine || place.y() % pitch_ < sharedLine;
+    if (const auto pixel = pixelUnder(place); pixel && !onLine) paint(*pixel, stroke_->on);
   }
   stroke_->at = end;
 }
@@ -188,7 +191,7 @@ void PixelGrid::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton || !pixel) return;
   begin();
   stroke_ = Stroke{place, !cell(*pixel)->isChecked()};
-  strokeTo(place);
+  paint(*pixel, stroke_->on);
 }
 
 void PixelGrid::mouseMoveEvent(QMouseEvent* event) {

@@ -7,7 +7,7 @@
 namespace tarnwick::calc {
 namespace {
 
-// What every order of operations leaves is held by a fuzz target.
+// What every order of operations leaves is held by the random user who draws in the window.
 TEST(CharacterSet, ShowsItsRowsAsHexadecimalBytes) {
   CharacterSet set;
   OpenEditor(set);
