@@ -6,17 +6,6 @@ namespace tarnwick::calc {
 namespace {
 
 const std::string face = "$00, $0A, $0A, $00, $11, $0E, $00, $00";
-const std::string faceOf1 = "LCDOUT $FE, $48, " + face;
-
-CharacterSet withFaceNamed(std::size_t slot) {
-  CharacterSet set;
-  OpenEditor(set);
-  SelectSlot(set, slot);
-  pasteCharacters(set, face);
-  set.shown.slotTable[slot].description = "smiley";
-  set.shown.slotTable[slot].constantAlias = "Smile";
-  return set;
-}
 
 TEST(CharacterText, TakesEightBytesOutOfAnyText) {
   struct Case {
@@ -75,36 +64,17 @@ TEST(CharacterText, FillsTheSlotsThatLinesName) {
             4, "more than twenty let", "AndItsNameHasMoreTha"},
            {"LCDOUT $FE, $68, " + face + " ' " + nine + "a" + pair, 5, nine + "a", ""},
        }) {
-    CharacterSet set = withFaceNamed(slot);
-    SelectSlot(set, 1);
-    pasteCharacters(set, faceOf1 + "\n" + text + "\n");
+    CharacterSet set;
+    OpenEditor(set);
+    SelectSlot(set, slot);
+    InvertAll(set);
+    set.shown.slotTable[slot].constantAlias = "Full";
+    pasteCharacters(set, "LCDOUT $FE, $48, " + face + "\n" + text + "\n");
     EXPECT_EQ(set.kept.SelectedSlot, std::min<std::size_t>(slot, 1)) << text;
     for (const std::size_t filled : {std::size_t{1}, slot})
       EXPECT_EQ(set.kept.CharacterData[filled], ", " + face) << text;
     EXPECT_EQ(set.shown.slotTable[slot].description, description) << text;
     EXPECT_EQ(set.shown.slotTable[slot].constantAlias, alias) << text;
-  }
-}
-
-TEST(CharacterText, KeepsTheNamesOfTheCharacterThatBytesReplace) {
-  CharacterSet set = withFaceNamed(2);
-  pasteCharacters(set, "31 0 0 0 10 0 0 0");  // no pixel of it is on in both
-  EXPECT_EQ(set.shown.slotTable[2].description, "smiley");
-  EXPECT_EQ(set.shown.slotTable[2].constantAlias, "Smile");
-  pasteCharacters(set, "0 0 0 0 0 0 0 0");
-  EXPECT_EQ(set.shown.slotTable[2], CharacterSlot());
-}
-
-// Deleting leaves the labels of the rows behind; what is pasted is not built from them.
-TEST(CharacterText, PastesAllEightBytesOverADeletedCharacter) {
-  for (const std::string& text : {face, faceOf1}) {
-    CharacterSet set;
-    OpenEditor(set);
-    SelectSlot(set, 1);
-    InvertAll(set);
-    DeleteSelectedCharacter(set);
-    pasteCharacters(set, text);
-    EXPECT_EQ(characterBytes(set), face);
   }
 }
 
