@@ -21,7 +21,7 @@ namespace {
 constexpr int nameLength = calc::nameLength;
 constexpr int slotPitch = ui::fromTwips(480);
 constexpr int rowOfSlot0 = 1;  // of the slot table, below the headings
-constexpr int slotGap = 4;     // between fields, where a large font makes rows higher than that
+constexpr int slotGap = 6;     // between fields, where a large font makes rows higher than that
 constexpr std::string_view widestData = " $00, $00, $00, $00, $00, $00, $00, $00";
 
 std::string aboutSlot(int slot) {
