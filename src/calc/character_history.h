@@ -15,10 +15,10 @@ namespace tarnwick::calc {
 // belong to no act: they stay as they are.
 class CharacterHistory {
 public:
-  // Takes down an act by the set before and after it; what was undone is forgotten. One that
-  // changed nothing is no act. What the same actor does in several changes is one act (a stroke's
-  // pixels, a name's letters), up to the next act of another, an undo or `close`; nullptr is an
-  // actor whose changes each stand alone.
+  // Takes down an act by the set before and after it; what was undone is forgotten, also by one
+  // whose last change takes back all others. One that changed nothing is no act. What the same
+  // actor does in several changes is one act (a stroke's pixels, a name's letters), up to the next
+  // act of another, an undo or `close`; nullptr is an actor whose changes each stand alone.
   void note(const CharacterSet& before, const CharacterSet& after, const void* actor = nullptr);
   // Ends an act that could go on: the next change is an act of its own.
   void close() { actor_ = nullptr; }

@@ -50,9 +50,10 @@ TEST(CharacterText, FillsTheSlotsThatLinesName) {
   const std::string pair = "\xF0\x9F\x98\x80";  // two of the characters that a field counts
   const std::string nine = pair + pair + pair + pair + pair + pair + pair + pair + pair;
   for (const auto& [text, slot, description, alias] : {
-           Case{"LCDOUT $FE, $40, 31, $0A, $0A, $00, $11, $0E, $00, $00\r\n"
+           Case{"Big                  CON 0\r\nLCDOUT $FE, $40, 31, $0A, $0A, $00, $11, $0E, $00, "
+                "$00\r\n"
                 "LCDOUT $FE, $40, " +
-                    face + " ' big $1F\r\nBig                  CON 0\r\nZero CON 0",
+                    face + " ' big $1F\r\nZero CON 0",
                 0, "big $1F", "Big"},
            {"Baud CON 7\n\tLcdOut 254,0x78,0,10,10,0,17,14,0,0;no names here\n"
             "  Small con 7 ; of 8\nSeven CON 7",

@@ -296,8 +296,6 @@ protected:
   }
 
   void paintByKeys() {
-    press(Qt::Key_Space);
-    act([&](Model& model) { model.toggle(at_.pixel()); });
     QTest::keyPress(screen(), Qt::Key_Shift);
     act([&](Model& model) {
       for (int steps = below(4); steps > 0; --steps) {
@@ -308,13 +306,13 @@ protected:
     QTest::keyRelease(screen(), Qt::Key_Shift);
   }
 
-  void turn() {
-    const auto key = oneOf(
-        {Qt::Key_Up, Qt::Key_Down, Qt::Key_Left, Qt::Key_Right, Qt::Key_M, Qt::Key_U, Qt::Key_I});
-    press(Qt::CTRL | key);
+  void pressKey() {
+    const auto key = oneOf({Qt::Key_Up, Qt::Key_Down, Qt::Key_Left, Qt::Key_Right, Qt::Key_M,
+                            Qt::Key_U, Qt::Key_I, Qt::Key_Space});
+    press(key == Qt::Key_Space ? key : Qt::CTRL | key);
     act([&](Model& model) {
-      if (key == Qt::Key_I) return model.toggleAll();
-      model.draw(turned(model.picture(), key));
+      if (key == Qt::Key_Space) return model.toggle(at_.pixel());
+      key == Qt::Key_I ? model.toggleAll() : model.draw(turned(model.picture(), key));
     });
   }
 
@@ -325,6 +323,7 @@ protected:
     const std::string name = oneOf({"a", "b c", "'CON 1"});
     if (!control(field)->isEnabled()) return;
     enter(field, name);
+    acts_.resize(done_);  // also by what in the end is the same name
     act([&](Model& model) {
       auto& named = model.table[static_cast<std::size_t>(slot)];
       (alias ? named.alias : named.description) = name;
@@ -404,12 +403,12 @@ protected:
     const int dice = below(40);
     if (dice < 8) return stroke();
     if (dice < 12) return paintByKeys();
-    if (dice < 18) return turn();
+    if (dice < 18) return pressKey();
     if (dice < 21) return typeName();
     if (dice < 25) return paste();
     if (dice < 33) return undoOrRedo();
     if (dice < 37) return selectSlot();
-    dice < 39 ? erase() : reopen();
+    dice < 39 ? (erase(), erase()) : reopen();
   }
 
   void expectModel() {
