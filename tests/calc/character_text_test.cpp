@@ -21,7 +21,6 @@ TEST(CharacterText, TakesEightBytesOutOfAnyText) {
            {"x0 8x $ % 0x 0b 2 0b2 $G1 1Gh _5 %12 0xh h 10 10 0 17 14 0 0", "$02" + face.substr(3)},
            {"\xC2\xB5\x30\xC2\xA0\x31\xE2\x80\x94\x32,3,4,5,6,7",
             "$00, $01, $02, $03, $04, $05, $06, $07"},
-           {"", none},
            {"$00, $0A, $0A, $00, $11, $0E, $00", none},
            {"each beach is 50 miles off", none},
            // What a program says beside the bytes

@@ -361,10 +361,11 @@ protected:
   }
 
   void undoOrRedo() {
-    const auto keys =
-        oneOf({Qt::CTRL | Qt::Key_Z, Qt::CTRL | Qt::Key_Y, Qt::CTRL | Qt::SHIFT | Qt::Key_Z});
+    constexpr QKeyCombination undo = Qt::CTRL | Qt::Key_Z;
+    const auto keys = oneOf<QKeyCombination>(
+        {undo, undo, undo, Qt::CTRL | Qt::Key_Y, Qt::CTRL | Qt::SHIFT | Qt::Key_Z});
     press(keys);
-    if (keys != (Qt::CTRL | Qt::Key_Z)) {
+    if (keys != undo) {
       if (done_ < acts_.size()) model_ = acts_[done_++].second;
     } else if (done_ > 0) {
       model_ = acts_[--done_].first;
@@ -402,7 +403,7 @@ protected:
     for (int steps = below(4); steps > 0; --steps) step({});
     const int dice = below(40);
     if (dice < 8) return stroke();
-    if (dice < 12) return paintByKeys();
+    if (dice < 12) return paintByKeys(), paintByKeys();
     if (dice < 18) return pressKey();
     if (dice < 21) return typeName();
     if (dice < 25) return paste();
