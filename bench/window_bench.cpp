@@ -1,7 +1,8 @@
 // On the display that is there: from the click in the launcher to the window painted, the first
 // opening of each window and the median of more; from a key press to all fields of its window
 // rewritten, by Enter in an entry field, which each time finds another text than the last, so that
-// no result stays as it was, or by Space on a cell of the grid.
+// no result stays as it was, or by Space on a cell of the grid; from a stroke of the mouse on the
+// grid to its cells painted, each before the next is reported.
 
 #include "app/gen_var.h"
 #include "app/program.h"
@@ -13,11 +14,13 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPushButton>
 
 #include <array>
 #include <chrono>
 #include <cstdio>
+#include <string>
 #include <vector>
 
 namespace {
@@ -46,22 +49,24 @@ constexpr std::array<Measured, 10> all{
      {"fAbout", "About"}}};
 constexpr int openings = 51;
 constexpr int presses = 2001;
+constexpr int strokes = 51;
 
-// Sees when a window gets its first paint event.
+// Sees when a window or a control gets its next paint event.
 class Painted : public QObject {
 public:
   Painted() { qApp->installEventFilter(this); }
 
   bool eventFilter(QObject* receiver, QEvent* event) override {
-    if (event->type() == QEvent::Paint && receiver->objectName() == QLatin1String(window_))
+    if (event->type() == QEvent::Paint && receiver->objectName() == QLatin1String(name_))
       painted_ = true;
     return false;
   }
 
-  // Milliseconds from the click until the window has been painted and handed to the display.
+  // Milliseconds from the click until the window or control of that name has been painted and
+  // handed to the display.
   template <typename Click>
-  double after(const Click& click, const char* window) {
-    window_ = window;
+  double after(const Click& click, const char* name) {
+    name_ = name;
     painted_ = false;
     const auto start = Clock::now();
     click();
@@ -72,7 +77,7 @@ public:
   }
 
 private:
-  const char* window_ = nullptr;
+  const char* name_ = nullptr;
   bool painted_ = false;
 };
 
@@ -99,6 +104,41 @@ double keyPressMilliseconds(QWidget& window, const Measured& measured) {
     QCoreApplication::sendEvent(control, &press);
     QCoreApplication::sendEvent(control, &release);
     times.push_back(Milliseconds(Clock::now() - start).count());
+  }
+  return median(times);
+}
+
+QWidget* cellOf(const QWidget& window, int pixel) {
+  const std::string name = "chk(" + std::to_string(pixel) + ")";
+  return window.findChild<QWidget*>(QLatin1String(name.c_str()));
+}
+
+// A stroke over the first cells of a blank grid, row by row and each from where the last one ended.
+double strokeMilliseconds(Painted& painted, const QWidget& window, int cells) {
+  std::vector<double> times;
+  for (int i = 0; i < strokes; ++i) {
+    window.findChild<QPushButton*>(QStringLiteral("cClear"))->click();
+    QCoreApplication::processEvents();
+    double taken = 0;
+    QWidget* first = cellOf(window, 0);
+    const auto report = [first](QEvent::Type type, const QWidget* cell) {
+      const QPointF place = cell->mapToGlobal(cell->rect().center());
+      const bool moved = type == QEvent::MouseMove;
+      const bool released = type == QEvent::MouseButtonRelease;
+      QMouseEvent event(type, first->mapFromGlobal(place), place,
+                        moved ? Qt::NoButton : Qt::LeftButton,
+                        released ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
+      QCoreApplication::sendEvent(first, &event);
+    };
+    for (int n = 0; n < cells; ++n) {
+      const int pixel = n / 5 % 2 == 0 ? n : n / 5 * 5 + 4 - n % 5;
+      const QWidget* cell = cellOf(window, pixel);
+      const auto type = n == 0 ? QEvent::MouseButtonPress : QEvent::MouseMove;
+      const std::string name = cell->objectName().toStdString();
+      taken += painted.after([&] { report(type, cell); }, name.c_str());
+      if (n == cells - 1) report(QEvent::MouseButtonRelease, cell);
+    }
+    times.push_back(taken);
   }
   return median(times);
 }
@@ -133,6 +173,13 @@ int main(int argc, char* argv[]) {
     QCoreApplication::processEvents();
     std::printf(" %9.3f\n", keyPressMilliseconds(*windows.loaded(all[i].window), all[i]));
   }
-  std::puts("\nAt most: 16 ms to open a window, fCustomCharacter 32; 1 ms for a key press");
+  std::puts("\n");
+  QWidget& editor = *windows.loaded("fCustomCharacter");
+  for (const int cells : {1, 40})
+    std::printf("a stroke over %d of the grid's cells %.2f (median of %d)\n", cells,
+                strokeMilliseconds(painted, editor, cells), strokes);
+  std::puts(
+      "\nAt most: 16 ms to open a window, fCustomCharacter 32; 1 ms for a key press; 8 ms for a "
+      "cell, 32 for a stroke over 40");
   windows.unloadAll();
 }

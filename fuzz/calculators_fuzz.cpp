@@ -3,6 +3,7 @@
 // promise; nothing becomes a whole number that does not fit one (the sanitizers watch that).
 
 #include "calc/adc.h"
+#include "calc/character_text.h"
 #include "calc/comparator.h"
 #include "calc/lcd_text.h"
 #include "calc/pwm.h"
@@ -11,19 +12,72 @@
 #include "calc/timer_helper.h"
 #include "common/lines.h"
 #include "common/read_number.h"
-#include "fuzz/input.h"
 
 #include <algorithm>
 #include <array>
+#include <bit>
+#include <cmath>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <fuzzer/FuzzedDataProvider.h>
 #include <initializer_list>
+#include <limits>
+#include <string>
+#include <string_view>
 #include <utility>
 
 namespace {
 
 using namespace tarnwick;
-using fuzz::anyNumber;
-using fuzz::fieldText;
-using fuzz::require;
+
+// Ends the run with the rule's text where it does not hold; the fuzzer then keeps the input.
+void require(bool holds, const char* rule) {
+  if (holds) return;
+  std::fprintf(stderr, "broken: %s\n", rule);
+  std::abort();
+}
+
+// Any number at all, not finite ones included; every other time one that users would type.
+double anyNumber(FuzzedDataProvider& input) {
+  switch (input.ConsumeIntegralInRange<int>(0, 5)) {
+    case 0:
+      return std::bit_cast<double>(input.ConsumeIntegral<std::uint64_t>());
+    case 1:
+      return input.PickValueInArray<double>(
+          {0.0, -0.0, 1E-307, 1E307, std::numeric_limits<double>::denorm_min(),
+           std::numeric_limits<double>::max(), std::numeric_limits<double>::infinity(),
+           std::numeric_limits<double>::quiet_NaN(), 0.5, 40, 115200, 65535.5});
+    case 2:
+      return input.ConsumeFloatingPointInRange<double>(-100, 100);
+    case 3:
+      return input.ConsumeIntegralInRange<int>(0, 1'000'000) / 1000.0;
+    default:
+      return input.ConsumeIntegralInRange<int>(0, 1'000'000);
+  }
+}
+
+// A finite number, as an entry field gives.
+double enteredNumber(FuzzedDataProvider& input) {
+  const double number = anyNumber(input);
+  return std::isfinite(number) ? number : 0;
+}
+
+// A one-line text as an entry field may show: printable, UTF-8, and without the letters that "inf"
+// and "nan" have in common.
+std::string fieldText(FuzzedDataProvider& input, std::size_t maximum = 24) {
+  std::string text;
+  for (const char byte : input.ConsumeRandomLengthString(maximum)) {
+    const auto code = static_cast<unsigned char>(byte);
+    if (code >= 0xF0)
+      text += "\u00B5";
+    else if (code % 128 >= ' ' && code % 128 != 127 && (code | 32) % 128 != 'n')
+      text += static_cast<char>(code % 128);
+    else
+      text += static_cast<char>('0' + code % 10);
+  }
+  return text;
+}
 
 bool isWhole(double value) {
   return value == std::floor(value);
@@ -159,7 +213,7 @@ void checkTimer(FuzzedDataProvider& input) {
 
 void checkTimerHelper(FuzzedDataProvider& input) {
   const calc::Delay delay{
-      .value = fuzz::enteredNumber(input),
+      .value = enteredNumber(input),
       .unit = static_cast<calc::DelayUnit>(input.ConsumeIntegralInRange<int>(0, 3))};
   const calc::TimerHelperInputs inputs{
       .foscMHz = anyNumber(input), .delay = delay, .reloadCycles = anyNumber(input)};
@@ -199,28 +253,38 @@ void checkLcd(FuzzedDataProvider& input) {
   std::size_t characters = 0;
   std::size_t aliases = 0;
   for (std::size_t i = 0; i < calc::slotCount; ++i) {
+    const auto pixel = input.ConsumeIntegral<std::uint8_t>();
+    if (pixel >= common::matrixPixels) continue;
     SelectSlot(set, i);
-    if (const auto pixel = input.ConsumeIntegral<std::uint8_t>(); pixel < common::matrixPixels)
-      TogglePixel(set, pixel), ++characters;
-    set.shown.slotTable[i].description = fieldText(input);
-    if (input.ConsumeBool())
-      set.shown.slotTable[i].constantAlias = "A" + fieldText(input), ++aliases;
+    TogglePixel(set, pixel), ++characters;
+    set.shown.slotTable[i].description = fieldText(input, calc::nameLength);
+    const std::string alias = fieldText(input, calc::nameLength);
+    set.shown.slotTable[i].constantAlias = alias;
+    aliases += alias.empty() ? 0 : 1;
   }
   calc::LcdSettings settings;
   for (auto setting : {&calc::LcdSettings::dataPort, &calc::LcdSettings::readWritePort,
                        &calc::LcdSettings::lines, &calc::LcdSettings::dataDelayUs})
     settings.*setting = fieldText(input);
   const bool defines = input.ConsumeBool();
+  const std::string text = BuildLcdText(settings, defines, set);
   requireLines((defines ? settings.readWritePort.empty() ? 14 : 16 : 0) +
                    (characters > 0 ? characters + 4 : 0) + (aliases > 0 ? aliases + 4 : 0),
-               {BuildLcdText(settings, defines, set)});
+               {text});
+
+  calc::CharacterSet again;
+  OpenEditor(again);
+  calc::pasteCharacters(again, text);
+  require(BuildLcdText(settings, defines, again) == text, "a copied text is read back");
+  calc::pasteCharacters(again, input.ConsumeRemainingBytesAsString());
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  fuzz::runOneOf(std::array{checkNumber, checkUsart, checkEusart, checkSer2, checkAdc,
-                            checkComparator, checkTimer, checkTimerHelper, checkPwm, checkLcd},
-                 data, size);
+  constexpr std::array checks{checkNumber,     checkUsart, checkEusart,      checkSer2, checkAdc,
+                              checkComparator, checkTimer, checkTimerHelper, checkPwm,  checkLcd};
+  FuzzedDataProvider input(data, size);
+  checks.at(input.ConsumeIntegralInRange<std::size_t>(0, checks.size() - 1))(input);
   return 0;
 }

@@ -10,10 +10,9 @@ using common::PixelMatrix;
 constexpr std::string_view blankLabel = "$00";
 
 std::string rowLabel(const PixelMatrix& pixels, std::size_t row) {
-  constexpr std::string_view hexDigits = "0123456789ABCDEF";
   constexpr PixelMatrix rowMask((1U << common::matrixColumns) - 1);
-  const auto value = (pixels >> (row * common::matrixColumns) & rowMask).to_ulong();
-  return {'$', hexDigits[value / 16], hexDigits[value % 16]};
+  const PixelMatrix value = pixels >> (row * common::matrixColumns) & rowMask;
+  return byteText(static_cast<unsigned>(value.to_ulong()));
 }
 
 std::string joined(const std::array<std::string, common::matrixRows>& labels) {
@@ -23,6 +22,11 @@ std::string joined(const std::array<std::string, common::matrixRows>& labels) {
 }
 
 }  // namespace
+
+std::string byteText(unsigned value) {
+  constexpr std::string_view hexDigits = "0123456789ABCDEF";
+  return {'$', hexDigits[value / 16 % 16], hexDigits[value % 16]};
+}
 
 void OpenEditor(CharacterSet& set) {
   set.shown = {};
@@ -51,6 +55,12 @@ void UpdateCharacter(CharacterSet& set) {
   data = joined(set.shown.lLine);
   slot.dataDisplay = data.substr(1);
   slot.enabled = true;
+}
+
+void drawCharacter(CharacterSet& set, const PixelMatrix& picture) {
+  for (const bool on : {true, false})
+    for (std::size_t p = 0; p < common::matrixPixels; ++p)
+      if (picture.test(p) == on && set.kept.Pixels.test(p) != on) TogglePixel(set, p);
 }
 
 void SelectSlot(CharacterSet& set, std::size_t slot) {

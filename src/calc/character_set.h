@@ -14,11 +14,17 @@ namespace tarnwick::calc {
 // RAM under the codes 0 to 7, and the editor that draws them.
 inline constexpr std::size_t slotCount = 8;
 
+// The most characters of a slot's description and of its constant alias.
+inline constexpr std::size_t nameLength = 20;
+
 // PBP text that sets the LCD's CGRAM address to the first row of each slot: command byte
 // $40 + 8 * slot. Source: HD44780U data sheet, instruction "Set CGRAM address".
 inline constexpr std::array<std::string_view, slotCount> CgramCommand = {
     "LCDOUT $FE, $40", "LCDOUT $FE, $48", "LCDOUT $FE, $50", "LCDOUT $FE, $58",
     "LCDOUT $FE, $60", "LCDOUT $FE, $68", "LCDOUT $FE, $70", "LCDOUT $FE, $78"};
+
+// Answers a byte as PBP writes it, "$0E".
+[[nodiscard]] std::string byteText(unsigned value);
 
 // One row of the slot table, as it is shown.
 struct CharacterSlot {
@@ -27,6 +33,8 @@ struct CharacterSlot {
   std::string description;      // UTF-8, free text
   std::string constantAlias;    // UTF-8, name of the constant that stands for the character's code
   bool enabled = false;         // description and alias can be edited
+
+  bool operator==(const CharacterSlot&) const = default;
 };
 
 // The eight characters and the state of their editor.
@@ -38,6 +46,8 @@ struct CharacterSet {
     std::array<std::string, slotCount> CharacterData;
     common::PixelMatrix Pixels;     // in the editing grid and the preview
     std::uint8_t SelectedSlot = 0;  // being edited
+
+    bool operator==(const Kept&) const = default;
   };
 
   // Starts afresh with every opening of the window.
@@ -69,6 +79,11 @@ void TogglePixel(CharacterSet& set, std::size_t p);
 // Recomputes the label of LastPixel's row, that pixel of the selected slot's picture and the slot's
 // character data. A slot without a pixel that is on loses its data, description and alias.
 void UpdateCharacter(CharacterSet& set);
+
+// Toggles the pixels in which the selected slot's picture differs from the one given, from pixel 0
+// on, first those that go on, then those that go off: description and alias are lost only where the
+// new picture is blank.
+void drawCharacter(CharacterSet& set, const common::PixelMatrix& picture);
 
 // Loads the slot's picture into the grid and recomputes all eight rows.
 void SelectSlot(CharacterSet& set, std::size_t slot);

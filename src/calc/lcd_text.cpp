@@ -1,6 +1,7 @@
 #include "calc/lcd_text.h"
 
 #include "common/lines.h"
+#include "common/utf8.h"
 
 #include <algorithm>
 #include <array>
@@ -11,8 +12,6 @@ namespace tarnwick::calc {
 namespace {
 
 using common::addLine;
-
-constexpr std::size_t aliasWidth = 20;
 
 // A block's lines under its heading, with an empty line behind; nothing where there are none.
 std::string block(std::string_view heading, std::string_view lines) {
@@ -55,16 +54,14 @@ std::string defineLines(const LcdSettings& settings) {
   return lines;
 }
 
-// The first byte of each UTF-8 character is not a continuation byte (binary 10xxxxxx).
 std::size_t characterCount(std::string_view text) {
-  return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char byte) {
-    return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
-  }));
+  return text.size() -
+         static_cast<std::size_t>(std::ranges::count_if(text, common::continuesCharacter));
 }
 
 std::string padded(std::string_view alias) {
-  const std::size_t length = std::min(characterCount(alias), aliasWidth);
-  return std::string(alias).append(aliasWidth - length, ' ');
+  const std::size_t length = std::min(characterCount(alias), nameLength);
+  return std::string(alias).append(nameLength - length, ' ');
 }
 
 }  // namespace

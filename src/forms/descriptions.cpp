@@ -227,11 +227,17 @@ constexpr std::array customCharacter{
     Description{"tChar", "The eight rows of the character, top row first, as PBP constants"},
     Description{"tName", "Comment for the copied line of the character, up to 20 characters"},
     Description{"tConstant", "Name of the PBP constant for the code, up to 20 characters"},
-    Description{"chk", "One pixel of the character: a click turns it on or off"},
-    Description{"cInvertAll", "Turns every pixel of the grid over"},
-    Description{"cClear", "Turns every pixel off and deletes the selected character"},
-    Description{"cDeleteChar", "Deletes the selected character with its comment and alias"},
-    Description{"cDeletedAll", "Deletes all eight characters with their comments and aliases"},
+    Description{"chk",
+                "One pixel of the character: a click toggles it, a drag or Shift with an arrow key "
+                "paints, a right click offers more"},
+    Description{"cInvertAll", "Turns every pixel of the grid over (in the grid Ctrl+I)"},
+    Description{"cClear",
+                "Turns every pixel off and deletes the selected character; Ctrl+Z brings it back"},
+    Description{"cDeleteChar",
+                "Deletes the selected character with its comment and alias; Ctrl+Z brings it back"},
+    Description{
+        "cDeletedAll",
+        "Deletes all eight characters with their comments and aliases; Ctrl+Z brings them back"},
     Description{"cCopyClip", "Copies the LCDOUT and CON lines of the characters in use"},
     Description{"cInclude", "Checked, the DEFINE lines of the LCD settings are copied too"},
 };

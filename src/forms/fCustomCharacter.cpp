@@ -1,5 +1,7 @@
 #include "forms/fCustomCharacter.h"
 
+#include "calc/character_text.h"
+#include "calc/lcd_text.h"
 #include "common/number_text.h"
 #include "forms/descriptions.h"
 #include "ui/desktop.h"
@@ -16,10 +18,18 @@
 namespace tarnwick::forms {
 namespace {
 
-constexpr int nameLength = 20;
+constexpr int nameLength = calc::nameLength;
 constexpr int slotPitch = ui::fromTwips(480);
-constexpr int slotGap = 4;  // between fields, where a large font makes rows higher than that
+constexpr int rowOfSlot0 = 1;  // of the slot table, below the headings
+constexpr int slotGap = 6;     // between fields, where a large font makes rows higher than that
 constexpr std::string_view widestData = " $00, $00, $00, $00, $00, $00, $00, $00";
+
+std::string aboutSlot(int slot) {
+  const std::string number = common::wholeText(slot);
+  const unsigned address = static_cast<unsigned>(slot) * common::matrixRows;
+  return "Character " + number + ": code " + number + ", CGRAM address " + calc::byteText(address) +
+         ", which the command byte " + calc::byteText(0x40 + address) + " sets";
+}
 
 void showText(QLineEdit& field, const std::string& text) {
   if (ui::fromQt(field.text()) != text) field.setText(ui::toQt(text));
@@ -33,12 +43,14 @@ fCustomCharacter::fCustomCharacter(calc::CharacterSet& characters)
       characters_(characters) {
   layOut();
   describe(*this);
+  describeSlots();
   connectEditor();
+  addCommands();
   Form_Load();
 }
 
 QWidget* fCustomCharacter::layOutSlots() {
-  auto* parent = new QWidget(this);
+  auto* parent = slotTable = new ui::MarkedRows(this);
   auto* table = ui::grid(parent);
   table->setContentsMargins({});
   table->setVerticalSpacing(0);
@@ -64,10 +76,10 @@ QWidget* fCustomCharacter::layOutSlots() {
     ui::nameAfter(slot.tName, "Description/comment " + number);
     ui::nameAfter(slot.tConstant, "Constant alias " + number);
 
-    const int row = ++i;
+    const int row = rowOfSlot0 + i++;
     table->setRowMinimumHeight(row, std::max(slotPitch, slot.tName->sizeHint().height() + slotGap));
     int column = 0;
-    for (QWidget* control : std::initializer_list<QWidget*>{oChar->button(row - 1), slot.picture,
+    for (QWidget* control : std::initializer_list<QWidget*>{oChar->button(i - 1), slot.picture,
                                                             slot.tChar, slot.tName, slot.tConstant})
       table->addWidget(control, row, column++, Qt::AlignVCenter);
   }
@@ -110,58 +122,120 @@ QWidget* fCustomCharacter::layOutGridButtons() {
   auto* group = ui::group(this, "fGrid", "Grid");
   cInvertAll = ui::button(group, "cInvertAll", "Invert all");
   cClear = ui::button(group, "cClear", "Clear");
-  auto* buttons = ui::grid(group);
-  buttons->addWidget(cInvertAll, 0, 0);
-  buttons->addWidget(cClear, 1, 0);
+  ui::row(group, {cInvertAll, cClear});
   return group;
 }
 
+// What deletes stands at one end, what copies at the other.
 QWidget* fCustomCharacter::layOutResults() {
   auto* group = ui::group(this, "fResults", "Results");
   cDeleteChar = ui::button(group, "cDeleteChar", "Delete selected character");
   cDeletedAll = ui::button(group, "cDeletedAll", "Delete all");
+  cInclude = ui::checkBox(group, "cInclude", "Include LCD Defines");
   cCopyClip = ui::button(group, "cCopyClip", "Copy results to clipboard");
   ui::clickBy(*cCopyClip, Qt::ALT | Qt::Key_C);
-  cInclude = ui::checkBox(group, "cInclude", "Include LCD Defines");
   auto* results = ui::grid(group);
-  for (int row = 0; QWidget * control :
-                    std::initializer_list<QWidget*>{cDeleteChar, cDeletedAll, cCopyClip, cInclude})
-    results->addWidget(control, row++, 0);
+  results->addWidget(cDeleteChar, 0, 0);
+  results->addWidget(cDeletedAll, 1, 0);
+  results->setRowStretch(2, 1);
+  results->addWidget(cInclude, 3, 0);
+  results->addWidget(cCopyClip, 4, 0);
   return group;
 }
 
 void fCustomCharacter::layOut() {
   auto* window = ui::grid(this);
   window->addWidget(settings_.group, 0, 0, 3, 1);
-  window->addWidget(layOutSlots(), 3, 0, 2, 1, Qt::AlignTop);
+  window->addWidget(layOutResults(), 0, 1, 3, 1);
+  window->addWidget(layOutSlots(), 3, 0, 2, 2, Qt::AlignTop);
   Image2 = new ui::LcdPanel(this);
-  window->addWidget(ui::label(this, "lPreview", "Preview"), 0, 1, 1, 2,
+  window->addWidget(ui::label(this, "lPreview", "Preview"), 0, 2,
                     Qt::AlignHCenter | Qt::AlignBottom);
-  window->addWidget(Image2, 1, 1, 1, 2, Qt::AlignHCenter);
-  window->addWidget(layOutLcdText(), 2, 1, 1, 2);
-  window->addWidget(layOutPixels(), 3, 1, Qt::AlignCenter);
-  window->addWidget(layOutGridButtons(), 3, 2);
-  window->addWidget(layOutResults(), 4, 1, 1, 2);
+  window->addWidget(Image2, 1, 2, Qt::AlignHCenter);
+  window->addWidget(layOutLcdText(), 2, 2);
+  window->addWidget(layOutPixels(), 3, 2, Qt::AlignCenter);
+  window->addWidget(layOutGridButtons(), 4, 2);
   window->setRowStretch(0, 1);
+  window->setColumnStretch(1, 1);
   ui::fixToContent(this);
+}
+
+void fCustomCharacter::describeSlots() {
+  for (int i = 0; const SlotRow& row : slotRows) {
+    for (QWidget* control :
+         std::initializer_list<QWidget*>{oChar->button(i), row.picture, row.tChar}) {
+      const QString about = ui::toQt(aboutSlot(i));
+      const QString use = control->toolTip();
+      control->setToolTip(use.isEmpty() ? about : about + "; " + use);
+      control->setAccessibleDescription(control->toolTip());
+    }
+    ++i;
+  }
 }
 
 void fCustomCharacter::connectEditor() {
   using Self = fCustomCharacter;
+  connect(slotTable, &ui::MarkedRows::chosen, this, &Self::slotTable_Chosen);
   connect(oChar, &ui::OptionGroup::chosen, this, &Self::oChar_Click);
   for (std::size_t i = 0; i < slotRows.size(); ++i) {
     connect(slotRows[i].tName, &QLineEdit::textChanged, this, [this, i] { tName_Change(i); });
     connect(slotRows[i].tConstant, &QLineEdit::textChanged, this,
             [this, i] { tConstant_Change(i); });
+    for (const QLineEdit* field : {slotRows[i].tName, slotRows[i].tConstant})
+      connect(field, &QLineEdit::editingFinished, this, [this] { history_.close(); });
+    slotTable->chooseBy(slotRows[i].tChar);
   }
   connect(uTleft, &QLineEdit::textChanged, this, &Self::uTleft_Change);
   connect(uTright, &QLineEdit::textChanged, this, &Self::uTright_Change);
+  connect(chk, &ui::PixelGrid::strokeBegan, this, [this] { history_.close(); });
   connect(chk, &ui::PixelGrid::clicked, this, &Self::chk_Click);
   connect(cInvertAll, &QPushButton::clicked, this, &Self::cInvertAll_Click);
   connect(cClear, &QPushButton::clicked, this, &Self::cClear_Click);
   connect(cDeleteChar, &QPushButton::clicked, this, &Self::cDeleteChar_Click);
   connect(cDeletedAll, &QPushButton::clicked, this, &Self::cDeletedAll_Click);
   connect(cCopyClip, &QPushButton::clicked, this, &Self::cCopyClip_Click);
+}
+
+void fCustomCharacter::addCommands() {
+  using Move = calc::CharacterMove;
+  const auto add = [this](const char* caption, const QKeySequence& keys, auto run) {
+    QAction* command = chk->addAction(QLatin1String(caption), keys, this, run);
+    command->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    command->setShortcutVisibleInContextMenu(true);
+    return command;
+  };
+  const auto addMove = [&](const char* caption, const QKeySequence& keys, Move move) {
+    add(caption, keys, [this, move] { moveCharacter(move); });
+  };
+  const auto addLine = [this] {
+    auto* line = new QAction(chk);
+    line->setSeparator(true);
+    chk->addAction(line);
+  };
+  addMove("Shift left", Qt::CTRL | Qt::Key_Left, Move::Left);
+  addMove("Shift right", Qt::CTRL | Qt::Key_Right, Move::Right);
+  addMove("Shift up", Qt::CTRL | Qt::Key_Up, Move::Up);
+  addMove("Shift down", Qt::CTRL | Qt::Key_Down, Move::Down);
+  addLine();
+  addMove("Mirror", Qt::CTRL | Qt::Key_M, Move::Mirror);
+  addMove("Turn upside down", Qt::CTRL | Qt::Key_U, Move::UpsideDown);
+  add("Invert", Qt::CTRL | Qt::Key_I, [this] { cInvertAll_Click(); });
+  addLine();
+  QAction* copy = add("Copy the character", Qt::CTRL | Qt::Key_C, [this] { copyCharacter(); });
+  QAction* paste = add("Paste", Qt::CTRL | Qt::Key_V, [this] { pasteCharacters(); });
+  for (std::size_t i = 0; i < slotRows.size(); ++i)
+    oChar->button(static_cast<int>(i))->addActions({copy, paste});
+  addLine();
+  auto* undoKeys = new ui::UndoKeys(this);
+  chk->addActions(undoKeys->commands());
+  connect(undoKeys, &ui::UndoKeys::undoAsked, this, [this] {
+    history_.undo(characters_);
+    showCharacters();
+  });
+  connect(undoKeys, &ui::UndoKeys::redoAsked, this, [this] {
+    history_.redo(characters_);
+    showCharacters();
+  });
 }
 
 void fCustomCharacter::Form_Load() {
@@ -172,19 +246,49 @@ void fCustomCharacter::Form_Load() {
   uTright->setText(ui::toQt(characters_.shown.followText));
 }
 
+template <typename Operation>
+void fCustomCharacter::change(const void* actor, const Operation& operation) {
+  const calc::CharacterSet before = characters_;
+  operation(characters_);
+  history_.note(before, characters_, actor);
+}
+
+template <typename Operation>
+void fCustomCharacter::act(const Operation& operation) {
+  change(nullptr, operation);
+  showCharacters();
+}
+
+void fCustomCharacter::slotTable_Chosen(int row) {
+  const int slot = row - rowOfSlot0;
+  if (slot < 0) return;
+  oChar->select(slot);
+  if (!slotRows.at(static_cast<std::size_t>(slot)).tChar->hasFocus())
+    oChar->button(slot)->setFocus(Qt::MouseFocusReason);
+}
+
+// To look at another slot is no act, unless it drops data that only the copied text showed.
 void fCustomCharacter::oChar_Click(int slot) {
   if (slot == characters_.kept.SelectedSlot) return;
+  const calc::CharacterSet before = characters_;
   calc::SelectSlot(characters_, static_cast<std::size_t>(slot));
+  history_.close();
+  if (!sameCharacters(before, characters_)) history_.note(before, characters_);
   showCharacters();
 }
 
 void fCustomCharacter::tName_Change(std::size_t slot) {
-  characters_.shown.slotTable.at(slot).description = ui::fromQt(slotRows.at(slot).tName->text());
+  const QLineEdit* field = slotRows.at(slot).tName;
+  change(field, [&](calc::CharacterSet& set) {
+    set.shown.slotTable.at(slot).description = ui::fromQt(field->text());
+  });
 }
 
 void fCustomCharacter::tConstant_Change(std::size_t slot) {
-  characters_.shown.slotTable.at(slot).constantAlias =
-      ui::fromQt(slotRows.at(slot).tConstant->text());
+  const QLineEdit* field = slotRows.at(slot).tConstant;
+  change(field, [&](calc::CharacterSet& set) {
+    set.shown.slotTable.at(slot).constantAlias = ui::fromQt(field->text());
+  });
 }
 
 void fCustomCharacter::uTleft_Change() {
@@ -198,32 +302,44 @@ void fCustomCharacter::uTright_Change() {
 }
 
 void fCustomCharacter::chk_Click(int pixel) {
-  calc::TogglePixel(characters_, static_cast<std::size_t>(pixel));
+  change(chk, [pixel](calc::CharacterSet& set) {
+    calc::TogglePixel(set, static_cast<std::size_t>(pixel));
+  });
   showCharacters();
 }
 
 void fCustomCharacter::cInvertAll_Click() {
-  calc::InvertAll(characters_);
-  showCharacters();
+  act(calc::InvertAll);
 }
 
 void fCustomCharacter::cClear_Click() {
-  calc::Clear(characters_);
-  showCharacters();
+  act(calc::Clear);
 }
 
 void fCustomCharacter::cDeleteChar_Click() {
-  calc::DeleteSelectedCharacter(characters_);
-  showCharacters();
+  act(calc::DeleteSelectedCharacter);
 }
 
 void fCustomCharacter::cDeletedAll_Click() {
-  calc::DeleteAll(characters_);
-  showCharacters();
+  act(calc::DeleteAll);
 }
 
 void fCustomCharacter::cCopyClip_Click() {
   ui::copyToClipboard(calc::BuildLcdText(settings_.contents(), cInclude->isChecked(), characters_));
+}
+
+void fCustomCharacter::moveCharacter(calc::CharacterMove move) {
+  act([move](calc::CharacterSet& set) {
+    calc::drawCharacter(set, calc::moved(set.kept.Pixels, move));
+  });
+}
+
+void fCustomCharacter::copyCharacter() {
+  ui::copyToClipboard(calc::characterBytes(characters_));
+}
+
+void fCustomCharacter::pasteCharacters() {
+  act([text = ui::clipboardText()](calc::CharacterSet& set) { calc::pasteCharacters(set, text); });
 }
 
 void fCustomCharacter::showCharacters() {
@@ -239,6 +355,7 @@ void fCustomCharacter::showCharacters() {
     row.tConstant->setEnabled(slot.enabled);
   }
   oChar->select(kept.SelectedSlot);
+  slotTable->mark(rowOfSlot0 + kept.SelectedSlot);
   chk->setPixels(kept.Pixels);
   for (std::size_t row = 0; row < lLine.size(); ++row) {
     lLine[row]->setText(ui::toQt(shown.lLine[row]));

@@ -1,9 +1,13 @@
 #pragma once
 
+#include "calc/character_history.h"
+#include "calc/character_move.h"
 #include "calc/character_set.h"
 #include "forms/lcd_settings_group.h"
 #include "ui/lcd_panel.h"
+#include "ui/marked_rows.h"
 #include "ui/pixels.h"
+#include "ui/undo_keys.h"
 #include "ui/widgets.h"
 
 #include <array>
@@ -11,7 +15,8 @@
 namespace tarnwick::forms {
 
 // LCD custom character generator: draws the eight characters of an LCD's character generator and
-// writes the PBP text that loads them.
+// writes the PBP text that loads them, or reads it back. Every act on the characters can be undone
+// while the window is open.
 class fCustomCharacter : public ui::Window {
 public:
   // The character set outlives the window: part of it is found again when the window is reopened.
@@ -31,9 +36,12 @@ private:
   QWidget* layOutGridButtons();
   QWidget* layOutResults();
   void layOut();
+  void describeSlots();
   void connectEditor();
+  void addCommands();
   void Form_Load();
 
+  void slotTable_Chosen(int row);
   void oChar_Click(int slot);
   void tName_Change(std::size_t slot);
   void tConstant_Change(std::size_t slot);
@@ -46,9 +54,20 @@ private:
   void cDeletedAll_Click();
   void cCopyClip_Click();
 
+  void moveCharacter(calc::CharacterMove move);
+  void copyCharacter();
+  void pasteCharacters();
+
+  // Changes the characters, as part of what the actor does at one go (CharacterHistory::note).
+  template <typename Operation>
+  void change(const void* actor, const Operation& operation);
+  // Does a whole act on the characters and shows what they are then.
+  template <typename Operation>
+  void act(const Operation& operation);
   void showCharacters();
 
   LcdSettingsGroup settings_;
+  ui::MarkedRows* slotTable;
   ui::OptionGroup* oChar;
   std::array<SlotRow, calc::slotCount> slotRows;
   ui::LcdPanel* Image2;
@@ -64,6 +83,7 @@ private:
   QCheckBox* cInclude;
 
   calc::CharacterSet& characters_;
+  calc::CharacterHistory history_;
 };
 
 }  // namespace tarnwick::forms

@@ -71,8 +71,8 @@ void LcdSettingsGroup::layOut() {
   setting(3, "lCommandUS", "Command (uSec)", tCommandUS);
   setting(4, "lDataUS", "Data (uSec)", tDataUS);
   table->addWidget(ui::label(group, "lBits", "bits"), 1, 6);
-  table->setColumnStretch(3, 1);
-  table->setColumnStretch(7, 2);
+  constexpr int gap = 18;  // between the wires and the rest
+  table->setColumnMinimumWidth(3, gap);
 }
 
 void LcdSettingsGroup::connectEvents() {

@@ -15,6 +15,10 @@ void copyToClipboard(std::string_view text) {
   clipboard->setText(toQt(text));
 }
 
+std::string clipboardText() {
+  return fromQt(QGuiApplication::clipboard()->text());
+}
+
 void openAddress(std::string_view address) {
   QDesktopServices::openUrl(QUrl(toQt(address)));
 }

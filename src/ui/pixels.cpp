@@ -5,10 +5,14 @@
 #include "ui/twips.h"
 #include "ui/widgets.h"
 
+#include <QContextMenuEvent>
 #include <QKeyEvent>
+#include <QMenu>
+#include <QMouseEvent>
 #include <QPainter>
 
 #include <algorithm>
+#include <cstdlib>
 #include <functional>
 #include <utility>
 
@@ -20,14 +24,15 @@ using common::PixelMatrix;
 constexpr int rows = common::matrixRows;
 constexpr int columns = common::matrixColumns;
 
-// Neighbouring cells share their border line, of one pixel.
-constexpr int cellTwips = 255;
-constexpr int cellPitch = fromTwips(240);
-constexpr int sharedLine = fromTwips(cellTwips) - cellPitch;
+// Neighbouring cells share their border line. They are larger than the 240 twips that are the
+// least, 16 pixels: a mouse or a finger wants 24. Source: Web Content Accessibility Guidelines 2.2,
+// target size minimum.
+constexpr int cellPitch = 28;
+constexpr int sharedLine = 1;
 
-// A picture's cell is one fifth of the grid's; the cells overlap by 5 twips, so that in whole
-// pixels they lie side by side.
-constexpr int smallTwips = cellTwips / 5;
+// A picture's cell is one fifth of the design's cell of 255 twips; the cells overlap by 5 twips, so
+// that in whole pixels they lie side by side.
+constexpr int smallTwips = 255 / 5;
 constexpr int smallPitch = fromTwips(smallTwips - 5);
 constexpr QPoint firstSmallCell(fromTwips(30 - 5), fromTwips(40 - 5));
 constexpr QSize panelSize(fromTwips(columns* smallTwips + 30), fromTwips(rows* smallTwips + 30));
@@ -44,6 +49,26 @@ constexpr Place placeOf(int pixel) {
 
 constexpr int pixelAt(Place place) {
   return place.row * columns + columns - 1 - place.column;
+}
+
+constexpr bool exists(Place place) {
+  return place.row >= 0 && place.row < rows && place.column >= 0 && place.column < columns;
+}
+
+// The place beside another to which a key leads; none where it is no arrow key.
+std::optional<Place> beside(Place place, int key) {
+  switch (key) {
+    case Qt::Key_Up:
+      return Place{place.row - 1, place.column};
+    case Qt::Key_Down:
+      return Place{place.row + 1, place.column};
+    case Qt::Key_Left:
+      return Place{place.row, place.column - 1};
+    case Qt::Key_Right:
+      return Place{place.row, place.column + 1};
+    default:
+      return std::nullopt;
+  }
 }
 
 class PixelCell : public QAbstractButton {
@@ -66,16 +91,12 @@ protected:
     painter.fillRect(inside.adjusted(3, 3, -3, -3), fill);
   }
 
+  // The mouse and the arrow keys are left to the grid.
+  void mousePressEvent(QMouseEvent* event) override { event->ignore(); }
+
   void keyPressEvent(QKeyEvent* event) override {
-    switch (event->key()) {
-      case Qt::Key_Up:
-      case Qt::Key_Down:
-      case Qt::Key_Left:
-      case Qt::Key_Right:
-        return event->ignore();  // left to the grid
-      default:
-        QAbstractButton::keyPressEvent(event);
-    }
+    if (beside({}, event->key())) return event->ignore();
+    QAbstractButton::keyPressEvent(event);
   }
 
   void focusInEvent(QFocusEvent* event) override {
@@ -104,7 +125,10 @@ PixelGrid::PixelGrid(QWidget* parent, std::string_view family) : QWidget(parent)
     cell->setAccessibleName(toQt("Row " + common::wholeText(place.row + 1) + ", column " +
                                  common::wholeText(place.column + 1)));
     cell->setGeometry(place.column * pitch_, rowTop(place.row), rowHeight(), rowHeight());
-    connect(cell, &QAbstractButton::clicked, this, [this, pixel] { emit clicked(pixel); });
+    connect(cell, &QAbstractButton::clicked, this, [this, pixel] {
+      begin();
+      emit clicked(pixel);
+    });
   }
   stopTabAt(pixelAt({0, 0}));
 }
@@ -121,33 +145,90 @@ int PixelGrid::rowHeight() const {
   return pitch_ + sharedLine;
 }
 
+QAbstractButton* PixelGrid::cell(int pixel) const {
+  return cells_.at(static_cast<std::size_t>(pixel));
+}
+
 void PixelGrid::stopTabAt(int pixel) {
   for (QAbstractButton* cell : cells_) cell->setFocusPolicy(Qt::ClickFocus);
-  cells_.at(static_cast<std::size_t>(pixel))->setFocusPolicy(Qt::StrongFocus);
+  cell(pixel)->setFocusPolicy(Qt::StrongFocus);
+}
+
+void PixelGrid::begin() {
+  keyStroke_ = false;
+  emit strokeBegan();
+}
+
+void PixelGrid::paint(int pixel, bool on) {
+  if (cell(pixel)->isChecked() != on) emit clicked(pixel);
+}
+
+// The last line of cells shares its far border with no other.
+std::optional<int> PixelGrid::pixelUnder(QPoint place) const {
+  if (!rect().contains(place)) return std::nullopt;
+  return pixelAt(
+      {std::min(place.y() / pitch_, rows - 1), std::min(place.x() / pitch_, columns - 1)});
+}
+
+// On a line between cells the pointer is in none of them: where it passes from one to the next
+// across a corner, it crosses no third.
+void PixelGrid::strokeTo(QPoint end) {
+  const QPointF start = stroke_->at;
+  const QPoint way = end - stroke_->at;
+  const int steps = std::max(std::abs(way.x()), std::abs(way.y()));
+  for (int i = 1; i <= steps; ++i) {
+    const QPoint place = (start + QPointF(way) * i / steps).toPoint();
+    const bool onLine = place.x() % pitch_ < sharedLine || place.y() % pitch_ < sharedLine;
+    if (const auto pixel = pixelUnder(place); pixel && !onLine) paint(*pixel, stroke_->on);
+  }
+  stroke_->at = end;
+}
+
+void PixelGrid::mousePressEvent(QMouseEvent* event) {
+  stroke_.reset();
+  const QPoint place = event->position().toPoint();
+  const auto pixel = pixelUnder(place);
+  if (event->button() != Qt::LeftButton || !pixel) return;
+  begin();
+  stroke_ = Stroke{place, !cell(*pixel)->isChecked()};
+  paint(*pixel, stroke_->on);
+}
+
+void PixelGrid::mouseMoveEvent(QMouseEvent* event) {
+  if (!event->buttons().testFlag(Qt::LeftButton)) stroke_.reset();
+  if (stroke_) strokeTo(event->position().toPoint());
+}
+
+void PixelGrid::mouseReleaseEvent(QMouseEvent* event) {
+  if (stroke_ && event->button() == Qt::LeftButton) strokeTo(event->position().toPoint());
+  stroke_.reset();
 }
 
 void PixelGrid::keyPressEvent(QKeyEvent* event) {
   const auto current = std::ranges::find_if(cells_, &QWidget::hasFocus);
-  if (current == cells_.end()) return QWidget::keyPressEvent(event);
-  Place place = placeOf(static_cast<int>(current - cells_.begin()));
-  switch (event->key()) {
-    case Qt::Key_Up:
-      --place.row;
-      break;
-    case Qt::Key_Down:
-      ++place.row;
-      break;
-    case Qt::Key_Left:
-      --place.column;
-      break;
-    case Qt::Key_Right:
-      ++place.column;
-      break;
-    default:
-      return QWidget::keyPressEvent(event);
-  }
-  place = {std::clamp(place.row, 0, rows - 1), std::clamp(place.column, 0, columns - 1)};
-  cells_.at(static_cast<std::size_t>(pixelAt(place)))->setFocus(Qt::OtherFocusReason);
+  const auto modifiers = event->modifiers() & ~Qt::KeypadModifier;
+  const bool paints = modifiers == Qt::ShiftModifier;
+  if (current == cells_.end() || (modifiers != Qt::NoModifier && !paints))
+    return QWidget::keyPressEvent(event);
+  const auto next = beside(placeOf(static_cast<int>(current - cells_.begin())), event->key());
+  if (!next) return QWidget::keyPressEvent(event);
+  if (!exists(*next)) return;
+  if (paints && !keyStroke_) begin();
+  keyStroke_ = paints;
+  cell(pixelAt(*next))->setFocus(Qt::OtherFocusReason);
+  if (paints) paint(pixelAt(*next), (*current)->isChecked());
+}
+
+void PixelGrid::keyReleaseEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Shift) keyStroke_ = false;
+  QWidget::keyReleaseEvent(event);
+}
+
+void PixelGrid::contextMenuEvent(QContextMenuEvent* event) {
+  auto* menu = new QMenu(this);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  menu->addActions(actions());
+  menu->popup(event->globalPos());
 }
 
 PixelPicture::PixelPicture(QWidget* parent, std::string_view name, const Look& look)

@@ -146,7 +146,7 @@ const Telling::Verbs& Telling::verbs() {
       {"same", [](User user, Is) { user.expectSeen(user.remembered_); }},
       {"picture", [](User user, Is act) { expectDots(user.control(act.name), 2, 3, act.text); }},
       {"grid", [](User user,
-                  Is act) { expectDots(user.control("chk(4)")->parentWidget(), 7, 16, act.all); }},
+                  Is act) { expectDots(user.control("chk(4)")->parentWidget(), 13, 28, act.all); }},
       {"dimmed", [](User user, Is act) { user.expectDimmed(act.all, true); }},
       {"true", [](User user, Is act) { user.expectDimmed(act.all, false); }},
       {"focus", [](User user, Is act) { EXPECT_EQ(user.focused(), act.name); }},

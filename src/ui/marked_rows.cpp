@@ -1,0 +1,62 @@
+#include "ui/marked_rows.h"
+
+#include "ui/drawing.h"
+
+#include <QGridLayout>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace tarnwick::ui {
+namespace {
+
+// Where a row of the table stands, as wide as the table.
+QRect bandOf(const QWidget& table, int row) {
+  const auto* grid = qobject_cast<const QGridLayout*>(table.layout());
+  if (grid == nullptr || row < 0 || row >= grid->rowCount()) return {};
+  QRect band = grid->cellRect(row, 0);
+  band.setLeft(0);
+  band.setWidth(table.width());
+  return band;
+}
+
+bool isLeftPress(const QEvent& event) {
+  return event.type() == QEvent::MouseButtonPress &&
+         static_cast<const QMouseEvent&>(event).button() == Qt::LeftButton;
+}
+
+}  // namespace
+
+MarkedRows::MarkedRows(QWidget* parent) : QWidget(parent) {}
+
+void MarkedRows::mark(int row) {
+  if (row == marked_) return;
+  marked_ = row;
+  update();
+}
+
+void MarkedRows::chooseBy(QWidget* control) {
+  control->installEventFilter(this);
+}
+
+bool MarkedRows::eventFilter(QObject* control, QEvent* event) {
+  if (isLeftPress(*event)) chooseAt(qobject_cast<QWidget*>(control)->geometry().center().y());
+  return false;
+}
+
+void MarkedRows::mousePressEvent(QMouseEvent* event) {
+  if (isLeftPress(*event)) chooseAt(event->position().toPoint().y());
+}
+
+void MarkedRows::chooseAt(int y) {
+  for (int row = 0; !bandOf(*this, row).isNull(); ++row)
+    if (bandOf(*this, row).contains(0, y)) return emit chosen(row);
+}
+
+void MarkedRows::paintEvent(QPaintEvent*) {
+  constexpr double tint = 0.25;
+  QPainter(this).fillRect(
+      bandOf(*this, marked_),
+      between(palette().color(QPalette::Window), palette().color(QPalette::Highlight), tint));
+}
+
+}  // namespace tarnwick::ui

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QWidget>
+
+namespace tarnwick::ui {
+
+// The parent of a table of controls in a grid layout. One row stands out by a tint of the desktop's
+// selection colour around its controls; the mouse chooses another.
+class MarkedRows : public QWidget {
+  Q_OBJECT
+
+public:
+  explicit MarkedRows(QWidget* parent);
+
+  void mark(int row);
+  // Lets a press of the left button on a control that takes it for itself choose its row, as one
+  // beside the controls does, and on those that take none.
+  void chooseBy(QWidget* control);
+
+  bool eventFilter(QObject* control, QEvent* event) override;
+
+signals:
+  void chosen(int row);
+
+protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
+private:
+  void chooseAt(int y);
+
+  int marked_ = -1;
+};
+
+}  // namespace tarnwick::ui
