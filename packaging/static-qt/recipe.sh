@@ -12,10 +12,9 @@ qt=$(versionOf qt6-base-dev)
 # provide CACHE STEPS PACKAGE...: prints the folder of the libraries. Where it is not there yet, the
 # command STEPS makes them in the folder "prefix". They depend on the versions of the packages.
 provide() {
-  local cache=${XDG_CACHE_HOME:-$HOME/.cache}/$1 recipe key
-  recipe=$(cat ../static-qt/*.cmake libraries{,.cmake} toolchain.cmake && dpkg-query -W "${@:3}")
-  key=$(sha256sum <<<"$recipe" | cut -c1-12)
-  local libraries=$cache/qt-$qt-$key
+  local cache=${XDG_CACHE_HOME:-$HOME/.cache}/$1 recipe
+  recipe=$(cat ../static-qt/{recipe.sh,*.cmake} libraries{,.cmake} toolchain.cmake && dpkg-query -W "${@:3}")
+  local libraries=$cache/qt-$qt-$(sha256sum <<<"$recipe" | cut -c1-12)
   options=(-G Ninja -C "$PWD/libraries.cmake" -DCMAKE_TOOLCHAIN_FILE="$PWD/toolchain.cmake")
 
   mkdir -p "$cache"
