@@ -5,7 +5,7 @@ set(CMAKE_BUILD_TYPE Release CACHE STRING "")
 set(QT_FORCE_FIND_TOOLS ON CACHE BOOL "")
 
 features(ON xcb xkbcommon_x11 dbus accessibility_atspi_bridge fontconfig system_freetype)
-features(OFF xlib xcb_xlib)  # xcb alone speaks to the X server: Xlib is wanted by OpenGL only
+features(OFF xlib xcb_xlib)  # xcb alone speaks to the X server, sooner; libraries.patch has the rest
 features(OFF dbus_linked)  # its library is loaded where a bus is asked for
 features(OFF mimetype_database system_libb2 system_xcb_xinput)
 features(OFF egl eglfs linuxfb vnc gbm kms evdev libinput libudev mtdev tslib gtk3 journald syslog)

@@ -2,7 +2,8 @@
 # What the recipes for Windows and for Linux share: the libraries of a program's one file are built
 # from Debian's sources into a cache outside the clone, once for each version of them, of the
 # compiler and of the recipe. To be sourced by a recipe, in whose folder libraries.cmake says how
-# Qt is configured and toolchain.cmake how programs are made:
+# Qt is configured, libraries.patch, if there is one, what is changed of it, and toolchain.cmake how
+# programs are made:
 #   provide CACHE STEPS PACKAGE...
 
 versionOf() { dpkg-query -W -f '${Version}\n' "$1"; }
@@ -12,10 +13,12 @@ qt=$(versionOf qt6-base-dev)
 # provide CACHE STEPS PACKAGE...: prints the folder of the libraries. Where it is not there yet, the
 # command STEPS makes them in the folder "prefix". They depend on the versions of the packages.
 provide() {
-  local cache=${XDG_CACHE_HOME:-$HOME/.cache}/$1 recipe
-  recipe=$(cat ../static-qt/{recipe.sh,*.cmake} libraries{,.cmake} toolchain.cmake && dpkg-query -W "${@:3}")
-  local libraries=$cache/qt-$qt-$(sha256sum <<<"$recipe" | cut -c1-12)
-  options=(-G Ninja -C "$PWD/libraries.cmake" -DCMAKE_TOOLCHAIN_FILE="$PWD/toolchain.cmake")
+  local cache=${XDG_CACHE_HOME:-$HOME/.cache}/$1 recipe key
+  recipe=$(cat ../static-qt/{recipe.sh,*.cmake} libraries* toolchain.cmake && dpkg-query -W "${@:3}")
+  key=$(sha256sum <<<"$recipe" | cut -c1-12)
+  local libraries=$cache/qt-$qt-$key
+  folder=$PWD
+  options=(-G Ninja -C "$folder/libraries.cmake" -DCMAKE_TOOLCHAIN_FILE="$folder/toolchain.cmake")
 
   mkdir -p "$cache"
   exec 3>"$cache/lock"
@@ -71,6 +74,7 @@ build() {
 # buildQt TEXT [OPTION...]
 buildQt() {
   step "Fetching the sources of Qt $qt" fetch qt6-base "$qt"
+  [[ ! -e $folder/libraries.patch ]] || patch -s -p1 -d qt6-base-source <"$folder/libraries.patch"
   step "$1: ten minutes and more, this once" build qt6-base-source qt "${@:2}"
   mkdir -p prefix/licences
   cp qt6-base-source/debian/copyright prefix/licences/Qt-and-its-parts.txt
