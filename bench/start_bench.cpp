@@ -1,9 +1,8 @@
 // Start-up time to the painted window, processor time and resident memory: the launcher, its bare
-// twin, an empty window and all windows of the program, run in changing order on the display that
-// is there. Prints medians and ratios.
-//   start_bench [runs]
-
-#include "measure.h"
+// twin, an empty window and all windows of the program, and the same of another build where its
+// folder is given, run in changing order on the display that is there. Prints medians, quartiles,
+// and what the medians are of the twin's.
+//   start_bench [runs [folder of another build's start_tarnwick and start_twin]]
 
 #include <algorithm>
 #include <array>
@@ -11,6 +10,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <iterator>
+#include <numeric>
 #include <random>
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -20,23 +21,29 @@
 
 namespace {
 
-struct Start {
-  const char* title;
-  const char* program;
-  const char* argument = nullptr;
-};
-
-constexpr std::array<Start, 4> starts{{{"launcher", "start_tarnwick"},
-                                       {"twin", "start_twin"},
-                                       {"empty window", "start_twin", "empty"},
-                                       {"all windows", "start_tarnwick", "all"}}};
-constexpr std::size_t twin = 1;
-
 struct Sample {
   double milliseconds = 0;
   double processorMilliseconds = 0;
   double mebibytes = 0;
 };
+
+struct Start {
+  const char* title;
+  const char* program;
+  const char* argument = nullptr;
+  std::filesystem::path folder{};
+  std::vector<Sample> samples{};
+};
+
+constexpr std::size_t twin = 1;
+
+// What is started of a build, whose twin is the second.
+std::vector<Start> startsOf(const std::filesystem::path& folder) {
+  return {{"launcher", "start_tarnwick", nullptr, folder},
+          {"twin", "start_twin", nullptr, folder},
+          {"empty window", "start_twin", "empty", folder},
+          {"all windows", "start_tarnwick", "all", folder}};
+}
 
 [[noreturn]] void fail(const Start& what) {
   std::fprintf(stderr, "%s did not report\n", what.title);
@@ -48,7 +55,6 @@ double milliseconds(const timeval& time) {
 }
 
 Sample runOnce(const Start& what) {
-  static const auto folder = std::filesystem::canonical("/proc/self/exe").parent_path();
   std::this_thread::sleep_for(std::chrono::milliseconds(150));  // the display settles
   std::array<int, 2> pipeEnds{};
   if (pipe(pipeEnds.data()) != 0) fail(what);
@@ -57,7 +63,7 @@ Sample runOnce(const Start& what) {
   if (child == 0) {
     dup2(pipeEnds[1], STDOUT_FILENO);
     close(pipeEnds[0]);
-    execl((folder / what.program).c_str(), what.program, what.argument, nullptr);
+    execl((what.folder / what.program).c_str(), what.program, what.argument, nullptr);
     std::_Exit(EXIT_FAILURE);
   }
   close(pipeEnds[1]);
@@ -74,38 +80,50 @@ Sample runOnce(const Start& what) {
           .mebibytes = static_cast<double>(kibibytes) / 1024};
 }
 
-double medianOf(const std::vector<Sample>& samples, double Sample::*value) {
+// The value's quartiles: a quarter of the samples is below the first, half below the second.
+std::array<double, 3> quartiles(const Start& start, double Sample::*value) {
   std::vector<double> values;
-  for (const Sample& sample : samples) values.push_back(sample.*value);
-  return tarnwick::bench::median(values);
+  for (const Sample& sample : start.samples) values.push_back(sample.*value);
+  std::ranges::sort(values);
+  const std::size_t size = values.size();
+  return {values[size / 4], values[size / 2], values[size - 1 - size / 4]};
+}
+
+void print(const Start& start, const Start& of) {
+  std::printf("%-14s", start.title);
+  for (const auto value :
+       {&Sample::milliseconds, &Sample::processorMilliseconds, &Sample::mebibytes}) {
+    const auto [low, median, high] = quartiles(start, value);
+    std::printf(" %7.1f %6.1f %6.1f %6.3f", median, low, high, median / quartiles(of, value)[1]);
+  }
+  std::printf("\n");
 }
 
 }  // namespace
 
 int main(int argc, char* argv[]) {
-  const int runs = argc > 1 ? std::atoi(argv[1]) : 21;
-  std::array<std::vector<Sample>, starts.size()> samples;
+  const int runs = argc > 1 ? std::max(std::atoi(argv[1]), 1) : 21;
+  auto starts = startsOf(std::filesystem::canonical("/proc/self/exe").parent_path());
+  if (argc > 2) std::ranges::copy(startsOf(argv[2]), std::back_inserter(starts));
   // In another order each time: the display is still busy with the end of a large program.
-  std::array<std::size_t, starts.size()> order{0, 1, 2, 3};
+  std::vector<std::size_t> order(starts.size());
+  std::iota(order.begin(), order.end(), 0);
   std::mt19937 generator;  // NOLINT(cert-msc51-cpp): the same orders in each measurement
 
   for (int run = -2; run < runs; ++run) {  // the first two warm the caches
     std::ranges::shuffle(order, generator);
     for (const std::size_t i : order) {
       const Sample sample = runOnce(starts[i]);
-      if (run >= 0) samples[i].push_back(sample);
+      if (run >= 0) starts[i].samples.push_back(sample);
     }
   }
-  std::printf("%-14s %8s %7s %8s %7s %8s %7s   (medians of %d runs)\n", "", "ms", "/ twin",
-              "CPU ms", "/ twin", "MiB", "/ twin", runs);
+  std::printf("%-14s %7s %13s %6s %7s %13s %6s %7s %13s %6s   (medians of %d runs)\n", "", "ms",
+              "quartiles", "/ twin", "CPU ms", "quartiles", "/ twin", "MiB", "quartiles", "/ twin",
+              runs);
   for (std::size_t i = 0; i < starts.size(); ++i) {
-    std::printf("%-14s", starts[i].title);
-    for (const auto value :
-         {&Sample::milliseconds, &Sample::processorMilliseconds, &Sample::mebibytes}) {
-      const double own = medianOf(samples[i], value);
-      std::printf(" %8.1f %7.3f", own, own / medianOf(samples[twin], value));
-    }
-    std::printf("\n");
+    if (i > 0 && starts[i].folder != starts[i - 1].folder)
+      std::printf("%s\n", starts[i].folder.c_str());
+    print(starts[i], starts[twin]);
   }
   std::puts("At most: launcher 1.10 times the twin in ms, 1.05 in MiB; all windows 1.5 in MiB");
 }

@@ -15,8 +15,4 @@ set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 
-# Qt's tools that run during the build are those of this machine.
-file(GLOB host_tools /usr/lib/*/cmake/Qt6CoreTools)
-cmake_path(GET host_tools PARENT_PATH host_packages)
-set(QT_HOST_PATH /usr)
-set(QT_HOST_PATH_CMAKE_DIR ${host_packages})
+include(${CMAKE_CURRENT_LIST_DIR}/../static-qt/host-tools.cmake)

@@ -47,6 +47,12 @@ def has(node, state):
     return node.get_state_set().contains(state)
 
 
+# What a node is, in the words before AT-SPI 2.53.
+def role(node):
+    name = node.get_role_name()
+    return "push button" if name == "button" else name
+
+
 # All that is shown of a node's descendants.
 def visible(node):
     for child in children(node):
@@ -64,10 +70,10 @@ def windows():
 
 
 # A control of the window of this name, once it is there.
-def control(window, role, name):
-    return wait(f"{window}: {role} {name!r}", lambda: next(
+def control(window, kind, name):
+    return wait(f"{window}: {kind} {name!r}", lambda: next(
         (node for each in windows() if each.get_name() == window for node in visible(each)
-         if (node.get_role_name(), node.get_name()) == (role, name)), None))
+         if (role(node), node.get_name()) == (kind, name)), None))
 
 
 # Does what a control is there for: presses or toggles it.
@@ -93,14 +99,14 @@ def expect(window, name, value):
 
 def walk():
     for node in visible(windows()[0]):
-        if node.get_role_name() == "push button" or node.get_name() == "About":
+        if role(node) == "push button" or node.get_name() == "About":
             node.do_action(0)
     wait("eleven windows", lambda: len(windows()) == 11)
     for node in [node for window in windows() for node in visible(window)]:
-        what = f"{node.get_role_name()} {node.get_name()!r}"
+        what = f"{role(node)} {node.get_name()!r}"
         canBeUsed = node.get_n_actions() or not has(node, Atspi.StateType.ENABLED)
-        assert canBeUsed or node.get_role_name() not in OPERATED, what
-        assert node.get_name().strip() or node.get_role_name() not in NAMED, what
+        assert canBeUsed or role(node) not in OPERATED, what
+        assert node.get_name().strip() or role(node) not in NAMED, what
 
 
 # Changes reach who only listens: results, options, sliders, pixels and labels.
