@@ -8,34 +8,11 @@
 #include "ui/keys.h"
 #include "ui/layout.h"
 #include "ui/text.h"
-#include "ui/twips.h"
 
-#include <algorithm>
 #include <string>
-#include <string_view>
 #include <utility>
 
 namespace tarnwick::forms {
-namespace {
-
-constexpr int nameLength = calc::nameLength;
-constexpr int slotPitch = ui::fromTwips(480);
-constexpr int rowOfSlot0 = 1;  // of the slot table, below the headings
-constexpr int slotGap = 6;     // between fields, where a large font makes rows higher than that
-constexpr std::string_view widestData = " $00, $00, $00, $00, $00, $00, $00, $00";
-
-std::string aboutSlot(int slot) {
-  const std::string number = common::wholeText(slot);
-  const unsigned address = static_cast<unsigned>(slot) * common::matrixRows;
-  return "Character " + number + ": code " + number + ", CGRAM address " + calc::byteText(address) +
-         ", which the command byte " + calc::byteText(0x40 + address) + " sets";
-}
-
-void showText(QLineEdit& field, const std::string& text) {
-  if (ui::fromQt(field.text()) != text) field.setText(ui::toQt(text));
-}
-
-}  // namespace
 
 fCustomCharacter::fCustomCharacter(calc::CharacterSet& characters)
     : Window("fCustomCharacter", "LCD Custom character generator"),
@@ -43,47 +20,10 @@ fCustomCharacter::fCustomCharacter(calc::CharacterSet& characters)
       characters_(characters) {
   layOut();
   describe(*this);
-  describeSlots();
+  slotTable->describeCharacters();
   connectEditor();
   addCommands();
   Form_Load();
-}
-
-QWidget* fCustomCharacter::layOutSlots() {
-  auto* parent = slotTable = new ui::MarkedRows(this);
-  auto* table = ui::grid(parent);
-  table->setContentsMargins({});
-  table->setVerticalSpacing(0);
-  table->addWidget(ui::label(parent, "lData", "Character data"), 0, 2);
-  table->addWidget(ui::label(parent, "lDescription", "Description/comment"), 0, 3);
-  table->addWidget(ui::label(parent, "lConstant", "Constant alias"), 0, 4);
-
-  oChar = new ui::OptionGroup(parent, "oChar");
-  for (int i = 0; i < static_cast<int>(calc::slotCount); ++i) oChar->add(i, "");
-  for (int i = 0; SlotRow & slot : slotRows) {
-    const std::string number = common::wholeText(i);
-    slot.picture =
-        new ui::PixelPicture(parent, "Char" + number, {.off = ui::pixelOff, .bordered = true});
-    slot.tChar = new ui::ResultField(parent, ui::indexed("tChar", i), widestData);
-    slot.tChar->setFrame(false);
-    slot.tChar->setAlignment(Qt::AlignLeft);
-    slot.tName = ui::textField(parent, ui::indexed("tName", i), nameLength);
-    slot.tConstant = ui::textField(parent, ui::indexed("tConstant", i), nameLength);
-
-    ui::nameAfter(oChar->button(i), "Character " + number);
-    ui::nameAfter(slot.picture, "Picture of character " + number);
-    ui::nameAfter(slot.tChar, "Character data " + number);
-    ui::nameAfter(slot.tName, "Description/comment " + number);
-    ui::nameAfter(slot.tConstant, "Constant alias " + number);
-
-    const int row = rowOfSlot0 + i++;
-    table->setRowMinimumHeight(row, std::max(slotPitch, slot.tName->sizeHint().height() + slotGap));
-    int column = 0;
-    for (QWidget* control : std::initializer_list<QWidget*>{oChar->button(i - 1), slot.picture,
-                                                            slot.tChar, slot.tName, slot.tConstant})
-      table->addWidget(control, row, column++, Qt::AlignVCenter);
-  }
-  return parent;
 }
 
 QWidget* fCustomCharacter::layOutLcdText() {
@@ -147,7 +87,8 @@ void fCustomCharacter::layOut() {
   auto* window = ui::grid(this);
   window->addWidget(settings_.group, 0, 0, 3, 1);
   window->addWidget(layOutResults(), 0, 1, 3, 1);
-  window->addWidget(layOutSlots(), 3, 0, 2, 2, Qt::AlignTop);
+  slotTable = new SlotTable(this);
+  window->addWidget(slotTable, 3, 0, 2, 2, Qt::AlignTop);
   Image2 = new ui::LcdPanel(this);
   window->addWidget(ui::label(this, "lPreview", "Preview"), 0, 2,
                     Qt::AlignHCenter | Qt::AlignBottom);
@@ -160,30 +101,15 @@ void fCustomCharacter::layOut() {
   ui::fixToContent(this);
 }
 
-void fCustomCharacter::describeSlots() {
-  for (int i = 0; const SlotRow& row : slotRows) {
-    for (QWidget* control :
-         std::initializer_list<QWidget*>{oChar->button(i), row.picture, row.tChar}) {
-      const QString about = ui::toQt(aboutSlot(i));
-      const QString use = control->toolTip();
-      control->setToolTip(use.isEmpty() ? about : about + "; " + use);
-      control->setAccessibleDescription(control->toolTip());
-    }
-    ++i;
-  }
-}
-
 void fCustomCharacter::connectEditor() {
   using Self = fCustomCharacter;
-  connect(slotTable, &ui::MarkedRows::chosen, this, &Self::slotTable_Chosen);
-  connect(oChar, &ui::OptionGroup::chosen, this, &Self::oChar_Click);
-  for (std::size_t i = 0; i < slotRows.size(); ++i) {
-    connect(slotRows[i].tName, &QLineEdit::textChanged, this, [this, i] { tName_Change(i); });
-    connect(slotRows[i].tConstant, &QLineEdit::textChanged, this,
-            [this, i] { tConstant_Change(i); });
-    for (const QLineEdit* field : {slotRows[i].tName, slotRows[i].tConstant})
+  connect(slotTable->oChar, &ui::OptionGroup::chosen, this, &Self::oChar_Click);
+  for (std::size_t i = 0; i < calc::slotCount; ++i) {
+    const auto& [picture, tChar, tName, tConstant] = slotTable->rows[i];
+    connect(tName, &QLineEdit::textChanged, this, [this, i] { tName_Change(i); });
+    connect(tConstant, &QLineEdit::textChanged, this, [this, i] { tConstant_Change(i); });
+    for (const QLineEdit* field : {tName, tConstant})
       connect(field, &QLineEdit::editingFinished, this, [this] { history_.close(); });
-    slotTable->chooseBy(slotRows[i].tChar);
   }
   connect(uTleft, &QLineEdit::textChanged, this, &Self::uTleft_Change);
   connect(uTright, &QLineEdit::textChanged, this, &Self::uTright_Change);
@@ -223,8 +149,8 @@ void fCustomCharacter::addCommands() {
   addLine();
   QAction* copy = add("Copy the character", Qt::CTRL | Qt::Key_C, [this] { copyCharacter(); });
   QAction* paste = add("Paste", Qt::CTRL | Qt::Key_V, [this] { pasteCharacters(); });
-  for (std::size_t i = 0; i < slotRows.size(); ++i)
-    oChar->button(static_cast<int>(i))->addActions({copy, paste});
+  for (int i = 0; i < static_cast<int>(calc::slotCount); ++i)
+    slotTable->oChar->button(i)->addActions({copy, paste});
   addLine();
   auto* undoKeys = new ui::UndoKeys(this);
   chk->addActions(undoKeys->commands());
@@ -259,14 +185,6 @@ void fCustomCharacter::act(const Operation& operation) {
   showCharacters();
 }
 
-void fCustomCharacter::slotTable_Chosen(int row) {
-  const int slot = row - rowOfSlot0;
-  if (slot < 0) return;
-  oChar->select(slot);
-  if (!slotRows.at(static_cast<std::size_t>(slot)).tChar->hasFocus())
-    oChar->button(slot)->setFocus(Qt::MouseFocusReason);
-}
-
 // To look at another slot is no act, unless it drops data that only the copied text showed.
 void fCustomCharacter::oChar_Click(int slot) {
   if (slot == characters_.kept.SelectedSlot) return;
@@ -278,14 +196,14 @@ void fCustomCharacter::oChar_Click(int slot) {
 }
 
 void fCustomCharacter::tName_Change(std::size_t slot) {
-  const QLineEdit* field = slotRows.at(slot).tName;
+  const QLineEdit* field = slotTable->rows.at(slot).tName;
   change(field, [&](calc::CharacterSet& set) {
     set.shown.slotTable.at(slot).description = ui::fromQt(field->text());
   });
 }
 
 void fCustomCharacter::tConstant_Change(std::size_t slot) {
-  const QLineEdit* field = slotRows.at(slot).tConstant;
+  const QLineEdit* field = slotTable->rows.at(slot).tConstant;
   change(field, [&](calc::CharacterSet& set) {
     set.shown.slotTable.at(slot).constantAlias = ui::fromQt(field->text());
   });
@@ -344,18 +262,7 @@ void fCustomCharacter::pasteCharacters() {
 
 void fCustomCharacter::showCharacters() {
   const auto& [kept, shown] = std::as_const(characters_);
-  for (std::size_t i = 0; i < slotRows.size(); ++i) {
-    const SlotRow& row = slotRows[i];
-    const calc::CharacterSlot& slot = shown.slotTable[i];
-    row.picture->setPixels(slot.picture);
-    showText(*row.tChar, slot.dataDisplay);
-    showText(*row.tName, slot.description);
-    showText(*row.tConstant, slot.constantAlias);
-    row.tName->setEnabled(slot.enabled);
-    row.tConstant->setEnabled(slot.enabled);
-  }
-  oChar->select(kept.SelectedSlot);
-  slotTable->mark(rowOfSlot0 + kept.SelectedSlot);
+  slotTable->showCharacters(characters_);
   chk->setPixels(kept.Pixels);
   for (std::size_t row = 0; row < lLine.size(); ++row) {
     lLine[row]->setText(ui::toQt(shown.lLine[row]));

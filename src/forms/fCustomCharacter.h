@@ -4,8 +4,8 @@
 #include "calc/character_move.h"
 #include "calc/character_set.h"
 #include "forms/lcd_settings_group.h"
+#include "forms/slot_table.h"
 #include "ui/lcd_panel.h"
-#include "ui/marked_rows.h"
 #include "ui/pixels.h"
 #include "ui/undo_keys.h"
 #include "ui/widgets.h"
@@ -23,25 +23,15 @@ public:
   explicit fCustomCharacter(calc::CharacterSet& characters);
 
 private:
-  struct SlotRow {
-    ui::PixelPicture* picture;
-    ui::ResultField* tChar;
-    QLineEdit* tName;
-    QLineEdit* tConstant;
-  };
-
-  QWidget* layOutSlots();
   QWidget* layOutLcdText();
   QWidget* layOutPixels();
   QWidget* layOutGridButtons();
   QWidget* layOutResults();
   void layOut();
-  void describeSlots();
   void connectEditor();
   void addCommands();
   void Form_Load();
 
-  void slotTable_Chosen(int row);
   void oChar_Click(int slot);
   void tName_Change(std::size_t slot);
   void tConstant_Change(std::size_t slot);
@@ -67,9 +57,7 @@ private:
   void showCharacters();
 
   LcdSettingsGroup settings_;
-  ui::MarkedRows* slotTable;
-  ui::OptionGroup* oChar;
-  std::array<SlotRow, calc::slotCount> slotRows;
+  SlotTable* slotTable;
   ui::LcdPanel* Image2;
   QLineEdit* uTleft;
   QLineEdit* uTright;
