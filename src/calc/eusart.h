@@ -36,11 +36,11 @@ struct EusartMatch {
 // before (docs/ON_PURPOSE.md).
 struct EusartShown {
   std::array<RateTexts, 4> rows;
-  EusartMatch best;        // of the BRG16 = 0 rows
-  EusartMatch best16;      // of the BRG16 = 1 rows
-  EusartMatch finalMatch;  // the better of the two
-  std::string brg16Text;   // "0" or "1", of the final match
-  bool FinalBRG16 = true;  // as the copied texts take it: also where the text is empty
+  EusartMatch best;            // of the BRG16 = 0 rows
+  EusartMatch best16;          // of the BRG16 = 1 rows
+  EusartMatch finalMatch;      // the better of the two
+  std::string brg16Text;       // "0" or "1", of the final match
+  bool FinalBRG16 = true;      // as the copied texts take it: also where the text is empty
   bool matchesAreOld = false;  // the matches are of an earlier calculation than the rows
   bool canCopy = false;
   bool canLocate = true;  // the BRG16 location can be chosen
