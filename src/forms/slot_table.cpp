@@ -35,7 +35,10 @@ void showText(QLineEdit& field, const std::string& text) {
 SlotTable::SlotTable(QWidget* parent) : MarkedRows(parent) {
   layOut();
   connect(this, &MarkedRows::chosen, this, &SlotTable::choose);
-  for (const Row& row : rows) chooseBy(row.tChar);
+  for (const Row& row : rows) {
+    chooseBy(row.picture);
+    chooseBy(row.tChar);
+  }
 }
 
 void SlotTable::layOut() {

@@ -17,10 +17,10 @@ constexpr int textWidth = -leftTextLeft;
 constexpr int margin = 8;
 constexpr QColor lcdGreen(0, 128, 0);
 
-QFont terminalFont() {
+QFont terminalFont(int scale) {
   QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
   font.setFamilies({QStringLiteral("Terminal"), font.family()});
-  font.setPointSize(18);
+  font.setPointSize(18 * scale);
   font.setBold(true);
   return font;
 }
@@ -37,10 +37,11 @@ QLineEdit* lockedText(QWidget* parent, std::string_view name, Qt::Alignment alig
   field->setFocusPolicy(Qt::ClickFocus);
   field->setFrame(false);
   field->setAlignment(alignment);
-  field->setFont(terminalFont());
+  const int scale = pictureScale(*parent);
+  field->setFont(terminalFont(scale));
   // Set for the field itself: the style of Windows paints an inherited background as its own.
   field->setPalette(lcdPalette(field->palette()));
-  field->setFixedWidth(textWidth);
+  field->setFixedWidth(textWidth * scale);
   return field;
 }
 
@@ -59,12 +60,15 @@ LcdPanel::LcdPanel(QWidget* parent) : QWidget(parent) {
   tRight = lockedText(this, "tRight", Qt::AlignLeft);
   nameAfter(tRight, "Follow text on the LCD");
 
-  Preview->move(margin + textWidth, margin);
-  tLeft->move(Preview->pos() + QPoint(leftTextLeft, textTop));
-  tRight->move(Preview->pos() + QPoint(rightTextLeft, textTop));
+  const int scale = pictureScale(*this);
+  Preview->move(QPoint(margin + textWidth, margin) * scale);
+  tLeft->move(Preview->pos() + QPoint(leftTextLeft, textTop) * scale);
+  const int overlap = Preview->width() / scale - rightTextLeft;
+  tRight->move(Preview->pos() + QPoint(Preview->width() - overlap, textTop * scale));
   const int textHeight = tLeft->sizeHint().height();
   for (QLineEdit* text : {tLeft, tRight}) text->setFixedHeight(textHeight);
-  setFixedSize(tRight->x() + textWidth + margin, tRight->y() + textHeight + margin);
+  setFixedSize(tRight->x() + (textWidth + margin) * scale,
+               tRight->y() + textHeight + margin * scale);
 }
 
 void LcdPanel::setPixels(const common::PixelMatrix& pixels) {

@@ -43,20 +43,13 @@ bool MarkedRows::eventFilter(QObject* control, QEvent* event) {
   return false;
 }
 
-void MarkedRows::mousePressEvent(QMouseEvent* event) {
-  if (isLeftPress(*event)) chooseAt(event->position().toPoint().y());
-}
-
 void MarkedRows::chooseAt(int y) {
   for (int row = 0; !bandOf(*this, row).isNull(); ++row)
     if (bandOf(*this, row).contains(0, y)) return emit chosen(row);
 }
 
 void MarkedRows::paintEvent(QPaintEvent*) {
-  constexpr double tint = 0.25;
-  QPainter(this).fillRect(
-      bandOf(*this, marked_),
-      between(palette().color(QPalette::Window), palette().color(QPalette::Highlight), tint));
+  QPainter(this).fillRect(bandOf(*this, marked_), markColor(palette()));
 }
 
 }  // namespace tarnwick::ui

@@ -5,7 +5,7 @@
 namespace tarnwick::ui {
 
 // The parent of a table of controls in a grid layout. One row stands out by a tint of the desktop's
-// selection colour around its controls; the mouse chooses another.
+// selection colour around its controls; a click on some of them chooses another.
 class MarkedRows : public QWidget {
   Q_OBJECT
 
@@ -13,8 +13,7 @@ public:
   explicit MarkedRows(QWidget* parent);
 
   void mark(int row);
-  // Lets a press of the left button on a control that takes it for itself choose its row, as one
-  // beside the controls does, and on those that take none.
+  // Lets a press of the left button on a control choose its row.
   void chooseBy(QWidget* control);
 
   bool eventFilter(QObject* control, QEvent* event) override;
@@ -23,7 +22,6 @@ signals:
   void chosen(int row);
 
 protected:
-  void mousePressEvent(QMouseEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
 private:

@@ -231,10 +231,15 @@ void PixelGrid::contextMenuEvent(QContextMenuEvent* event) {
   menu->popup(event->globalPos());
 }
 
+int pictureScale(const QWidget& control) {
+  constexpr double usualHeight = 18;  // of a line, with the fonts that desktops start with
+  return std::max(1, qRound(control.fontMetrics().height() / usualHeight));
+}
+
 PixelPicture::PixelPicture(QWidget* parent, std::string_view name, const Look& look)
     : QWidget(parent), look_(look) {
   setObjectName(toQt(name));
-  setFixedSize(panelSize);
+  setFixedSize(panelSize * pictureScale(*this));
 }
 
 void PixelPicture::setPixels(const PixelMatrix& pixels) {
@@ -245,9 +250,12 @@ void PixelPicture::setPixels(const PixelMatrix& pixels) {
 
 void PixelPicture::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  if (look_.bordered) painter.fillRect(rect(), Qt::black);
+  const int scale = pictureScale(*this);
+  painter.scale(scale, scale);
+  const QRect panel(QPoint(), panelSize);
+  if (look_.bordered) painter.fillRect(panel, Qt::black);
   const int border = look_.bordered ? 1 : 0;
-  painter.fillRect(rect().adjusted(border, border, -border, -border), look_.off);
+  painter.fillRect(panel.adjusted(border, border, -border, -border), look_.off);
   for (int pixel = 0; pixel < rows * columns; ++pixel) {
     if (!pixels_.test(static_cast<std::size_t>(pixel))) continue;
     const Place place = placeOf(pixel);

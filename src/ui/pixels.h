@@ -70,6 +70,9 @@ private:
   bool keyStroke_ = false;  // goes on while Shift is held
 };
 
+// Answers how many times as large as designed pictures are shown beside the font of a control.
+[[nodiscard]] int pictureScale(const QWidget& control);
+
 // A small picture of a character on a panel of its own.
 class PixelPicture : public QWidget {
   Q_OBJECT
