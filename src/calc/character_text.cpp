@@ -120,6 +120,18 @@ std::optional<std::size_t> slotOf(unsigned command) {
   return address / common::matrixRows;
 }
 
+// A line from a word on that stands before its comment; nothing where it does not.
+std::optional<string_view> statementOf(string_view line, string_view lower) {
+  const string_view code = line.substr(0, line.find_first_of(commentMarks));
+  for (std::size_t i = 0; i + lower.size() <= code.size(); ++i) {
+    const std::size_t end = i + lower.size();
+    const bool isWhole =
+        (i == 0 || !isWordPart(code[i - 1])) && (end == code.size() || !isWordPart(code[end]));
+    if (isWhole && isWord(code.substr(i, lower.size()), lower)) return line.substr(i);
+  }
+  return std::nullopt;
+}
+
 // What an LCDOUT line sends.
 struct LcdOutput {
   std::optional<std::size_t> slot;  // at whose first row it begins to write
@@ -194,7 +206,8 @@ public:
       read_.definitions[slot]->constantAlias = aliases_[slot];
       defines = true;
     }
-    if (!defines) read_.picture = pictureOf(loose_);
+    if (defines) return read_;
+    read_.picture = pictureOf(loose_.size() < common::matrixRows ? withComments_ : loose_);
     return read_;
   }
 
@@ -202,10 +215,12 @@ private:
   void readLine(string_view line) {
     if (const auto constant = constantIn(line)) return readConstant(*constant);
     string_view rest = line;
-    const string_view first = cutWord(rest);
-    if (isWord(first, "define") || isWord(cutWord(rest), "con")) return;
-    if (isWord(first, "lcdout")) return readOutput(lcdOutput(line));
-    take(valuesIn(line));
+    if (isWord(cutWord(rest), "define") || isWord(cutWord(rest), "con")) return;
+    if (const auto statement = statementOf(line, "lcdout"))
+      return readOutput(lcdOutput(*statement));
+    const auto all = valuesIn(line);
+    withComments_.insert(withComments_.end(), all.begin(), all.end());
+    take(valuesIn(line.substr(0, line.find("//")).substr(0, line.find_first_of(commentMarks))));
   }
 
   void readConstant(const Constant& constant) {
@@ -218,6 +233,7 @@ private:
     const auto picture = pictureOf(output.bytes);
     if (output.slot && picture)
       read_.definitions.at(*output.slot) = {*picture, shortened(output.comment), {}};
+    withComments_.insert(withComments_.end(), output.bytes.begin(), output.bytes.end());
     take(output.bytes);
   }
 
@@ -227,7 +243,8 @@ private:
 
   CharacterText read_;
   std::array<std::string, slotCount> aliases_;
-  std::vector<unsigned> loose_;
+  std::vector<unsigned> loose_;         // without those in comments
+  std::vector<unsigned> withComments_;  // for texts in which comment marks are something else
 };
 
 }  // namespace
@@ -254,8 +271,10 @@ void pasteCharacters(CharacterSet& set, string_view text) {
 }
 
 std::string characterBytes(const CharacterSet& set) {
-  const std::string& data = set.kept.CharacterData.at(set.kept.SelectedSlot);
-  return data.empty() ? "$00, $00, $00, $00, $00, $00, $00, $00" : data.substr(2);
+  const std::size_t slot = set.kept.SelectedSlot;
+  const std::string& data = set.kept.CharacterData.at(slot);
+  const bool isShown = set.shown.slotTable.at(slot).enabled;
+  return data.empty() || !isShown ? "$00, $00, $00, $00, $00, $00, $00, $00" : data.substr(2);
 }
 
 }  // namespace tarnwick::calc

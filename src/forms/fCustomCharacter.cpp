@@ -152,7 +152,9 @@ void fCustomCharacter::addCommands() {
   for (int i = 0; i < static_cast<int>(calc::slotCount); ++i)
     slotTable->oChar->button(i)->addActions({copy, paste});
   addLine();
-  auto* undoKeys = new ui::UndoKeys(this);
+  QWidgetList names;
+  for (const auto& row : slotTable->rows) names << row.tName << row.tConstant;
+  auto* undoKeys = new ui::UndoKeys(this, names);
   chk->addActions(undoKeys->commands());
   connect(undoKeys, &ui::UndoKeys::undoAsked, this, [this] {
     history_.undo(characters_);

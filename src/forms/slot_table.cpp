@@ -94,11 +94,13 @@ void SlotTable::choose(int row) {
   const int slot = row - rowOfSlot0;
   if (slot < 0) return;
   oChar->select(slot);
-  if (!rows.at(static_cast<std::size_t>(slot)).tChar->hasFocus())
+  const QLineEdit* shown = rows.at(static_cast<std::size_t>(slot)).tChar;
+  if (!shown->hasFocus() || shown->text().isEmpty())
     oChar->button(slot)->setFocus(Qt::MouseFocusReason);
 }
 
 void SlotTable::showCharacters(const calc::CharacterSet& characters) {
+  oChar->select(characters.kept.SelectedSlot);
   for (std::size_t i = 0; i < rows.size(); ++i) {
     const Row& row = rows[i];
     const calc::CharacterSlot& slot = characters.shown.slotTable[i];
@@ -106,10 +108,13 @@ void SlotTable::showCharacters(const calc::CharacterSet& characters) {
     showText(*row.tChar, slot.dataDisplay);
     showText(*row.tName, slot.description);
     showText(*row.tConstant, slot.constantAlias);
+    // The keys go on from the option of the selected slot, and not in another slot's name.
+    const bool closes = !slot.enabled && (row.tName->hasFocus() || row.tConstant->hasFocus());
+    const bool moves = oChar->button(static_cast<int>(i))->hasFocus();
+    if (closes || moves) oChar->button(oChar->selected())->setFocus(Qt::OtherFocusReason);
     row.tName->setEnabled(slot.enabled);
     row.tConstant->setEnabled(slot.enabled);
   }
-  oChar->select(characters.kept.SelectedSlot);
   mark(rowOfSlot0 + characters.kept.SelectedSlot);
 }
 

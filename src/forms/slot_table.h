@@ -10,7 +10,7 @@
 namespace tarnwick::forms {
 
 // The table of the eight characters, a row for each; that of the selected one is marked. A click on
-// a row selects its character.
+// a picture or on data selects its character.
 class SlotTable : public ui::MarkedRows {
   Q_OBJECT
 

@@ -5,6 +5,7 @@
 #include "ui/twips.h"
 #include "ui/widgets.h"
 
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMenu>
@@ -93,6 +94,7 @@ protected:
 
   // The mouse and the arrow keys are left to the grid.
   void mousePressEvent(QMouseEvent* event) override { event->ignore(); }
+  void mouseReleaseEvent(QMouseEvent* event) override { event->ignore(); }
 
   void keyPressEvent(QKeyEvent* event) override {
     if (beside({}, event->key())) return event->ignore();
@@ -131,6 +133,14 @@ PixelGrid::PixelGrid(QWidget* parent, std::string_view family) : QWidget(parent)
     });
   }
   stopTabAt(pixelAt({0, 0}));
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, const QWidget* now) {
+    if (now == nullptr || now->parentWidget() != this) keyStroke_ = false;
+  });
+}
+
+// The toolkit may still move the focus while it takes the grid apart: nothing follows it then.
+PixelGrid::~PixelGrid() {
+  disconnect(qApp, nullptr, this, nullptr);
 }
 
 void PixelGrid::setPixels(const PixelMatrix& pixels) {
@@ -156,6 +166,7 @@ void PixelGrid::stopTabAt(int pixel) {
 
 void PixelGrid::begin() {
   keyStroke_ = false;
+  stroke_.reset();
   emit strokeBegan();
 }
 
@@ -178,17 +189,19 @@ void PixelGrid::strokeTo(QPoint end) {
   const int steps = std::max(std::abs(way.x()), std::abs(way.y()));
   for (int i = 1; i <= steps; ++i) {
     const QPoint place = (start + QPointF(way) * i / steps).toPoint();
-    const bool onLine = place.x() % pitch_ < sharedLine || place.y() % pitch_ < sharedLine;
+    const bool onLine = (way.x() != 0 && place.x() % pitch_ < sharedLine) ||
+                        (way.y() != 0 && place.y() % pitch_ < sharedLine);
     if (const auto pixel = pixelUnder(place); pixel && !onLine) paint(*pixel, stroke_->on);
   }
   stroke_->at = end;
 }
 
 void PixelGrid::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
   stroke_.reset();
   const QPoint place = event->position().toPoint();
   const auto pixel = pixelUnder(place);
-  if (event->button() != Qt::LeftButton || !pixel) return;
+  if (!pixel) return;
   begin();
   stroke_ = Stroke{place, !cell(*pixel)->isChecked()};
   paint(*pixel, stroke_->on);
@@ -200,7 +213,8 @@ void PixelGrid::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void PixelGrid::mouseReleaseEvent(QMouseEvent* event) {
-  if (stroke_ && event->button() == Qt::LeftButton) strokeTo(event->position().toPoint());
+  if (event->button() != Qt::LeftButton) return;
+  if (stroke_) strokeTo(event->position().toPoint());
   stroke_.reset();
 }
 

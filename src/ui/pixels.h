@@ -28,6 +28,7 @@ class PixelGrid : public QWidget {
 public:
   // The cell of pixel p is named family(p).
   PixelGrid(QWidget* parent, std::string_view family);
+  ~PixelGrid() override;
 
   void setPixels(const common::PixelMatrix& pixels);
   // The top edge of a row of cells, and their height, in logical pixels: a line of the fixed-pitch

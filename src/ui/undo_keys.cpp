@@ -1,9 +1,12 @@
 #include "ui/undo_keys.h"
 
+#include "ui/entry_field.h"
+
 #include <QApplication>
 #include <QComboBox>
 #include <QKeyEvent>
-#include <QLineEdit>
+
+#include <utility>
 
 namespace tarnwick::ui {
 namespace {
@@ -12,6 +15,10 @@ namespace {
 QLineEdit* fieldOf(QObject* control) {
   if (const auto* list = qobject_cast<QComboBox*>(control)) return list->lineEdit();
   return qobject_cast<QLineEdit*>(control);
+}
+
+bool isEntry(const QObject* control) {
+  return qobject_cast<const EntryField*>(control) != nullptr;
 }
 
 QAction* command(QWidget* window, const char* caption, const QList<QKeySequence>& keys) {
@@ -24,22 +31,30 @@ QAction* command(QWidget* window, const char* caption, const QList<QKeySequence>
 
 }  // namespace
 
-UndoKeys::UndoKeys(QWidget* window)
+UndoKeys::UndoKeys(QWidget* window, QWidgetList ofHistory)
     : QObject(window),
+      ofHistory_(std::move(ofHistory)),
       undo_(command(window, "Undo", {Qt::CTRL | Qt::Key_Z})),
       redo_(command(window, "Redo", {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y})) {
   connect(undo_, &QAction::triggered, this, [this] {
-    QLineEdit* field = fieldOf(QApplication::focusWidget());
+    if (isEntry(QApplication::focusWidget())) return;
+    QLineEdit* field = fieldWithTyping();
     if (field == nullptr || !field->isUndoAvailable()) return emit undoAsked();
     field->undo();
   });
   connect(redo_, &QAction::triggered, this, [this] {
-    QLineEdit* field = fieldOf(QApplication::focusWidget());
+    if (isEntry(QApplication::focusWidget())) return;
+    QLineEdit* field = fieldWithTyping();
     if (field == nullptr || !field->isRedoAvailable()) return emit redoAsked();
     field->redo();
   });
   for (QWidget* control : window->findChildren<QWidget*>())
     if (fieldOf(control) != nullptr) control->installEventFilter(this);
+}
+
+QLineEdit* UndoKeys::fieldWithTyping() const {
+  QWidget* focus = QApplication::focusWidget();
+  return ofHistory_.contains(focus) ? nullptr : fieldOf(focus);
 }
 
 // A field would take the keys for itself, also with nothing to undo.

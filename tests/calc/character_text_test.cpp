@@ -21,6 +21,8 @@ TEST(CharacterText, TakesEightBytesOutOfAnyText) {
            {"x0 8x $ % 0x 0b 2 0b2 $G1 1Gh _5 %12 0xh h 10 10 0 17 14 0 0", "$02" + face.substr(3)},
            {"\xC2\xB5\x30\xC2\xA0\x31\xE2\x80\x94\x32,3,4,5,6,7",
             "$00, $01, $02, $03, $04, $05, $06, $07"},
+           {"0 ' row 1\n10 // row 2\n10 ; row 3\n0 ' 4\n17\n14\n0\n0", face},
+           {"0;10;10;0;17;14;0;0", face},
            {"$00, $0A, $0A, $00, $11, $0E, $00", none},
            {"each beach is 50 miles off", none},
            // What a program says beside the bytes
@@ -69,7 +71,7 @@ TEST(CharacterText, FillsTheSlotsThatLinesName) {
     SelectSlot(set, slot);
     InvertAll(set);
     set.shown.slotTable[slot].constantAlias = "Full";
-    pasteCharacters(set, "LCDOUT $FE, $48, " + face + "\n" + text + "\n");
+    pasteCharacters(set, "Init: LCDOUT $FE, $48, " + face + "\n" + text + "\n");
     EXPECT_EQ(set.kept.SelectedSlot, std::min<std::size_t>(slot, 1)) << text;
     for (const std::size_t filled : {std::size_t{1}, slot})
       EXPECT_EQ(set.kept.CharacterData[filled], ", " + face) << text;

@@ -99,6 +99,14 @@ TEST_F(LcdWindow, PaintsWhatAFastDragCrosses) {
   EXPECT_EQ(shown("tChar(0)"), " $10, $11, $10, $1C, $10, $10, $17, $00");
 }
 
+TEST_F(LcdWindow, PaintsAlongTheLineBetweenCells) {
+  const QPoint onLine = centre({0, 1}) - QPoint(place("chk(3)").width() / 2, 0);
+  QTest::mousePress(screen(), Qt::LeftButton, {}, onLine);
+  QTest::mouseClick(screen(), Qt::MiddleButton, {}, onLine);
+  QTest::mouseRelease(screen(), Qt::LeftButton, {}, onLine + centre({3, 0}) - centre({0, 0}));
+  EXPECT_EQ(shown("tChar(0)"), " $08, $08, $08, $08, $00, $00, $00, $00");
+}
+
 TEST_F(LcdWindow, NamesItsKeysInTheMenuOfTheGrid) {
   drag({{0, 0}, {0, 1}});
   click("chk(20)", Qt::RightButton);
