@@ -16,10 +16,7 @@ TEST(Adc, ShowsClockAndAcquisition) {
   using Case = std::pair<AdcInputs, const char*>;
   for (const auto& [inputs, texts] :
        {Case{{4, 10, true}, "Fosc/8 (ADCS=001)|6 Tad|11 uSec|"},
-        Case{{1.3, 10, true}, "Fosc/2 (ADCS=000)|8 Tad|11 uSec|"},
         Case{{1, 1, true}, "Fosc/2 (ADCS=000)|0 Tad|3 uSec|"},
-        Case{{1, 1, false}, "Fosc/2 (ADCS=000)|0 Tad|2 uSec|"},
-        Case{{40, 2.5, true}, "Fosc/64 (ADCS=110)|4 Tad|4 uSec|"},
         Case{{41, 2.5, true}, "Frc (ADCS=111)|0 Tad|4 uSec|"},
         Case{{20, 1000, true}, "Fosc/32 (ADCS=010)|64 Tad|842 uSec|"},
         Case{{20, 24000, false}, "Fosc/32 (ADCS=010)|16 Tad|22 uSec|"},
