@@ -35,9 +35,9 @@ void showText(QLineEdit& field, const std::string& text) {
 SlotTable::SlotTable(QWidget* parent) : MarkedRows(parent) {
   layOut();
   connect(this, &MarkedRows::chosen, this, &SlotTable::choose);
-  for (const Row& row : rows) {
-    chooseBy(row.picture);
-    chooseBy(row.tChar);
+  for (int row = rowOfSlot0; const Row& slot : rows) {
+    chooseBy(slot.picture, row);
+    chooseBy(slot.tChar, row++);
   }
 }
 
@@ -92,7 +92,6 @@ void SlotTable::describeCharacters() {
 
 void SlotTable::choose(int row) {
   const int slot = row - rowOfSlot0;
-  if (slot < 0) return;
   oChar->select(slot);
   const QLineEdit* shown = rows.at(static_cast<std::size_t>(slot)).tChar;
   if (!shown->hasFocus() || shown->text().isEmpty())

@@ -34,18 +34,14 @@ void MarkedRows::mark(int row) {
   update();
 }
 
-void MarkedRows::chooseBy(QWidget* control) {
+void MarkedRows::chooseBy(QWidget* control, int row) {
+  rows_.insert(control, row);
   control->installEventFilter(this);
 }
 
 bool MarkedRows::eventFilter(QObject* control, QEvent* event) {
-  if (isLeftPress(*event)) chooseAt(qobject_cast<QWidget*>(control)->geometry().center().y());
+  if (isLeftPress(*event)) emit chosen(rows_.value(control));
   return false;
-}
-
-void MarkedRows::chooseAt(int y) {
-  for (int row = 0; !bandOf(*this, row).isNull(); ++row)
-    if (bandOf(*this, row).contains(0, y)) return emit chosen(row);
 }
 
 void MarkedRows::paintEvent(QPaintEvent*) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QWidget>
 
 namespace tarnwick::ui {
@@ -13,8 +14,8 @@ public:
   explicit MarkedRows(QWidget* parent);
 
   void mark(int row);
-  // Lets a press of the left button on a control choose its row.
-  void chooseBy(QWidget* control);
+  // Lets a press of the left button on a control choose a row.
+  void chooseBy(QWidget* control, int row);
 
   bool eventFilter(QObject* control, QEvent* event) override;
 
@@ -25,8 +26,7 @@ protected:
   void paintEvent(QPaintEvent* event) override;
 
 private:
-  void chooseAt(int y);
-
+  QHash<QObject*, int> rows_;  // by the control that chooses them
   int marked_ = -1;
 };
 
