@@ -6,6 +6,8 @@
 #include "ui/result_look.h"
 #include "ui/text.h"
 
+#include <utility>
+
 namespace tarnwick::forms {
 namespace {
 
@@ -90,13 +92,12 @@ calc::ComparatorInputs fComparator::inputs() const {
   return {.vdd = tVdd->number(), .range = static_cast<calc::VrefRange>(oVrefRange->selected())};
 }
 
-// A refused supply leaves the fields alone, so that they stay marked as out of date.
-void fComparator::show(const calc::ComparatorShown& shown) {
-  shown_ = shown;
-  if (shown.invalidVdd) return;
-  tLabelLowRange->setText(ui::toQt(shown.lowRange));
-  tLabelHighRange->setText(ui::toQt(shown.highRange));
-  tVref->setContents(shown.vref);
+void fComparator::show(calc::ComparatorShown shown) {
+  shown_ = std::move(shown);
+  ui::showOutOfDate({tLabelLowRange, tLabelHighRange, tVref}, this, shown_.invalidVdd);
+  tLabelLowRange->setText(ui::toQt(shown_.lowRange));
+  tLabelHighRange->setText(ui::toQt(shown_.highRange));
+  tVref->setContents(shown_.vref);
 }
 
 void fComparator::CalcVref() {
@@ -104,7 +105,7 @@ void fComparator::CalcVref() {
 }
 
 void fComparator::tVdd_Validate() {
-  show(calc::next(shown_, inputs()));
+  show(calc::next(std::move(shown_), inputs()));
   if (!shown_.invalidVdd) return;
   showMessage(QMessageBox::Critical, common::product::title, "Invalid Vdd");
   VddPointTyped = false;

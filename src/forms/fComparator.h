@@ -17,7 +17,7 @@ private:
   void Form_Load();
 
   [[nodiscard]] calc::ComparatorInputs inputs() const;
-  void show(const calc::ComparatorShown& shown);
+  void show(calc::ComparatorShown shown);
 
   // Reads supply and range and rewrites both range labels and the column of voltages.
   void CalcVref();
