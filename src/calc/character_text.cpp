@@ -218,9 +218,9 @@ private:
     if (isWord(cutWord(rest), "define") || isWord(cutWord(rest), "con")) return;
     if (const auto statement = statementOf(line, "lcdout"))
       return readOutput(lcdOutput(*statement));
-    const auto all = valuesIn(line);
-    withComments_.insert(withComments_.end(), all.begin(), all.end());
-    take(valuesIn(line.substr(0, line.find("//")).substr(0, line.find_first_of(commentMarks))));
+    const std::size_t comment = std::min(line.find("//"), line.find_first_of(commentMarks));
+    append(valuesIn(line), withComments_);
+    append(valuesIn(line.substr(0, comment)), loose_);
   }
 
   void readConstant(const Constant& constant) {
@@ -233,12 +233,12 @@ private:
     const auto picture = pictureOf(output.bytes);
     if (output.slot && picture)
       read_.definitions.at(*output.slot) = {*picture, shortened(output.comment), {}};
-    withComments_.insert(withComments_.end(), output.bytes.begin(), output.bytes.end());
-    take(output.bytes);
+    append(output.bytes, withComments_);
+    append(output.bytes, loose_);
   }
 
-  void take(const std::vector<unsigned>& values) {
-    loose_.insert(loose_.end(), values.begin(), values.end());
+  static void append(const std::vector<unsigned>& values, std::vector<unsigned>& to) {
+    to.insert(to.end(), values.begin(), values.end());
   }
 
   CharacterText read_;
