@@ -239,6 +239,7 @@ constexpr std::array customCharacter{
         "cDeletedAll",
         "Deletes all eight characters with their comments and aliases; Ctrl+Z brings them back"},
     Description{"cCopyClip", "Copies the LCDOUT and CON lines of the characters in use"},
+    Description{"lLine", "Byte of the row of pixels beside it, $00 to $1F"},
     Description{"cInclude", "Checked, the DEFINE lines of the LCD settings are copied too"},
 };
 
@@ -247,7 +248,7 @@ struct WindowDescriptions {
   std::span<const Description> descriptions;
 };
 
-constexpr std::array<WindowDescriptions, 9> windows{{
+constexpr auto windows = std::to_array<WindowDescriptions>({
     {"fTimer", timer},
     {"fTimerHelper", timerHelper},
     {"fUSART", usart},
@@ -257,7 +258,7 @@ constexpr std::array<WindowDescriptions, 9> windows{{
     {"fMinADTime", adc},
     {"fComparator", comparator},
     {"fCustomCharacter", customCharacter},
-}};
+});
 
 }  // namespace
 
