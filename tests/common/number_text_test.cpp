@@ -87,10 +87,8 @@ TEST(Format, AgreesWithWholeNumberArithmeticOnManyValues) {
 }
 
 TEST(FormatWithUnit, AppendsTheUnitToWhatIsShown) {
-  EXPECT_EQ(formatWithUnit(5, "###0.0###", " MHz"), "5.0 MHz");
   EXPECT_EQ(formatWithUnit(0, "#####", " %"), " %");
   EXPECT_EQ(formatWithUnit(1.0 / 0.0, "0.0", " uSec"), "");
-  EXPECT_EQ(formatWithUnit(1e307, "0.0%", " of it"), "");
 }
 
 TEST(NumberText, IsAsShortAsFifteenDigitsAllow) {
