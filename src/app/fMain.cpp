@@ -69,19 +69,22 @@ std::vector<double> buttonMiddles() {
   return middles;
 }
 
+// To measure each of them would be a noticeable part of the start.
+constexpr std::string_view longestCaption =
+    std::ranges::max(launcherButtons, {}, [](const auto& each) {
+      return each.caption.size();
+    }).caption;
+
 // How many times larger than this the font may be for every caption to fit a button of the size.
 double room(const QFont& font, QSize button) {
   constexpr int marginX = 8;
   constexpr int marginY = 4;
   const QFontMetricsF metrics(font);
-  double room = (button.height() - marginY) / metrics.height();
-  for (const LauncherButton& each : launcherButtons)
-    room = std::min(room,
-                    (button.width() - marginX) / metrics.horizontalAdvance(ui::toQt(each.caption)));
-  return room;
+  return std::min((button.height() - marginY) / metrics.height(),
+                  (button.width() - marginX) / metrics.horizontalAdvance(ui::toQt(longestCaption)));
 }
 
-// Answers the font, made smaller where the widest caption would not fit a button whole. To load a
+// Answers the font, made smaller where the longest caption would not fit a button whole. To load a
 // size takes a noticeable part of the start: the first guess fits.
 QFont fittingFont(QFont font, QSize button) {
   constexpr double step = 0.5;
