@@ -55,8 +55,8 @@ protected:
 };
 
 TEST_F(EntryField, SelectsWhatTheMouseMeans) {
-  const int digits = second.fontMetrics().horizontalAdvance("12");
-  drag(digits);
+  drag(second.fontMetrics().horizontalAdvance("12") -
+       second.fontMetrics().horizontalAdvance(".") / 2);
   EXPECT_EQ(second.selectedText(), "12");
   first.setFocus();
   for (const auto& [trembling, selected] : {std::pair(3, "12.5"), {0, ""}}) {
