@@ -37,7 +37,8 @@ SlotTable::SlotTable(QWidget* parent) : MarkedRows(parent) {
   connect(this, &MarkedRows::chosen, this, &SlotTable::choose);
   for (int row = rowOfSlot0; const Row& slot : rows) {
     chooseBy(slot.picture, row);
-    chooseBy(slot.tChar, row++);
+    chooseBy(slot.tChar, row);
+    ++row;
   }
 }
 
